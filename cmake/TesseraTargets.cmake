@@ -1,0 +1,59 @@
+# SPDX-FileCopyrightText: 2026 Tessera contributors
+# SPDX-License-Identifier: MIT
+
+# Adds the given files of the current folder to TARGET. Headers join a header set, so that each of
+# them is checked to compile by itself.
+function(tessera_sources target)
+    target_sources(${target} PRIVATE ${ARGN})
+    set(headers ${ARGN})
+    list(FILTER headers INCLUDE REGEX "\\.h$")
+    if(headers)
+        file(RELATIVE_PATH set_name "${PROJECT_SOURCE_DIR}" "${CMAKE_CURRENT_SOURCE_DIR}")
+        string(MAKE_C_IDENTIFIER "headers_${set_name}" set_name)
+        target_sources(${target} PUBLIC FILE_SET ${set_name} TYPE HEADERS
+                       BASE_DIRS "${CMAKE_CURRENT_SOURCE_DIR}" FILES ${headers})
+    endif()
+endfunction()
+
+# tessera_add_library(NAME SHARED|STATIC [LIBRARIES ...]): a layer of the project.
+# Its include roots are the repository and tessera/.
+function(tessera_add_library name kind)
+    cmake_parse_arguments(arg "" "" "LIBRARIES" ${ARGN})
+    add_library(${name} ${kind})
+    target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/tessera")
+    target_link_libraries(${name} PUBLIC ${arg_LIBRARIES} PRIVATE tessera_flags)
+endfunction()
+
+# tessera_add_plugin(NAME SOURCES ... [LIBRARIES ...]): a module that the viewer loads at run time.
+function(tessera_add_plugin name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_library(${name} MODULE ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} tessera_flags)
+    set_target_properties(${name} PROPERTIES
+        LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/${TESSERA_PLUGIN_DIR}")
+    install(TARGETS ${name} LIBRARY DESTINATION "${TESSERA_PLUGIN_DIR}")
+endfunction()
+
+# tessera_add_test(NAME name SOURCES ... [LIBRARIES ...] [NEEDS_DISPLAY]): one test program.
+# Without NEEDS_DISPLAY it runs on Qt's offscreen platform, with it on the X server in DISPLAY.
+function(tessera_add_test)
+    cmake_parse_arguments(arg "NEEDS_DISPLAY" "NAME" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${arg_NAME} ${arg_SOURCES})
+    target_link_libraries(${arg_NAME} PRIVATE $<TARGET_NAME_IF_EXISTS:tesseratestsupport>
+                          $<TARGET_NAME_IF_EXISTS:tesseracore> vantrelhost
+                          $<TARGET_NAME_IF_EXISTS:simulation>
+                          ${arg_LIBRARIES} Qt5::Test tessera_flags)
+    set_target_properties(${arg_NAME} PROPERTIES
+        RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
+    add_test(NAME ${arg_NAME} COMMAND ${arg_NAME})
+    set(platform offscreen)
+    if(arg_NEEDS_DISPLAY)
+        set(platform xcb)
+        set_property(TEST ${arg_NAME} PROPERTY LABELS display)
+    endif()
+    set_property(TEST ${arg_NAME} PROPERTY TIMEOUT 300)
+    set_property(TEST ${arg_NAME} PROPERTY ENVIRONMENT
+        "QT_QPA_PLATFORM=${platform}" QT_QUICK_BACKEND=software QT_FONT_DPI=96 LC_ALL=C.UTF-8
+        "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/leaks-of-others.txt:print_suppressions=0"
+        "UBSAN_OPTIONS=print_stacktrace=1")
+endfunction()

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 Tessera contributors
+// SPDX-License-Identifier: MIT
+
+#include "id.h"
+
+namespace Core {
+
+CId::CId(const char *text)
+    : m_text(QString::fromUtf8(text))
+{
+}
+
+CId::CId(const CId &other) = default;
+CId &CId::operator=(const CId &other) = default;
+CId::~CId() = default;
+
+QString CId::toString() const
+{
+    return m_text;
+}
+
+CId CId::withSuffix(const char *suffix) const
+{
+    CId result(*this);
+    result.m_text += QLatin1Char('.') + QString::fromUtf8(suffix);
+    return result;
+}
+
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the contract passes ids by value here
+bool CId::operator==(CId other) const
+{
+    return m_text == other.m_text;
+}
+
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the contract passes ids by value here
+bool CId::operator!=(CId other) const
+{
+    return m_text != other.m_text;
+}
+
+} // namespace Core
