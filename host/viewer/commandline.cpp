@@ -7,6 +7,9 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+#include <iterator>
+
 namespace Viewer {
 
 namespace {
@@ -16,6 +19,15 @@ const QStringList &visibilityNames()
     static const QStringList names {QStringLiteral("Beginner"), QStringLiteral("Expert"),
                                     QStringLiteral("Guru"), QStringLiteral("All")};
     return names;
+}
+
+QStringList languageCodes()
+{
+    const auto languages = Host::LanguageChoice::languages();
+    QStringList codes;
+    std::transform(languages.cbegin(), languages.cend(), std::back_inserter(codes),
+                   [](const Host::Language &language) { return language.code; });
+    return codes;
 }
 
 QString text(const char *source)
@@ -111,7 +123,7 @@ Options CommandLine::parse(const QStringList &arguments)
             indexOfName(visibilityNames(), value("visibility"), QStringLiteral("visibility"));
     }
     if (m_parser.isSet(QStringLiteral("language"))) {
-        indexOfName(Host::LanguageChoice::codes(), options.language, QStringLiteral("language"));
+        indexOfName(languageCodes(), options.language, QStringLiteral("language"));
     }
     if (m_parser.isSet(QStringLiteral("screenshot")) && options.screenshot.isEmpty()) {
         throw CommandLineError(

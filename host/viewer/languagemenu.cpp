@@ -13,12 +13,15 @@ LanguageMenu::LanguageMenu(QWidget *parent)
     : QMenu(tr("&Language"), parent)
 {
     auto *group = new QActionGroup(this);
-    const auto codes = Host::LanguageChoice::codes();
-    for (const QString &code : codes) {
-        QAction *action = group->addAction(Host::LanguageChoice::nativeName(code));
+    const QString stored = Host::LanguageChoice::stored();
+    const QString chosen = stored.isEmpty() ? Host::LanguageChoice::current() : stored;
+    const auto languages = Host::LanguageChoice::languages();
+    for (const Host::Language &language : languages) {
+        QAction *action = group->addAction(language.nativeName);
         action->setCheckable(true);
-        action->setChecked(code == Host::LanguageChoice::stored());
-        connect(action, &QAction::triggered, this, [this, code] { choose(code); });
+        action->setChecked(language.code == chosen);
+        connect(action, &QAction::triggered, this,
+                [this, language] { choose(language.code, language.nativeName); });
         addAction(action);
     }
     addSeparator();
@@ -27,11 +30,10 @@ LanguageMenu::LanguageMenu(QWidget *parent)
     note->setEnabled(false);
 }
 
-void LanguageMenu::choose(const QString &code)
+void LanguageMenu::choose(const QString &code, const QString &nativeName)
 {
     Host::LanguageChoice::store(code);
-    Q_EMIT hint(
-        tr("%1 will be used from the next start on.").arg(Host::LanguageChoice::nativeName(code)));
+    Q_EMIT hint(tr("%1 will be used from the next start on.").arg(nativeName));
 }
 
 } // namespace Viewer

@@ -20,7 +20,7 @@ Q_SIGNALS:
     void hint(const QString &text);
 
 private:
-    void choose(const QString &code);
+    void choose(const QString &code, const QString &nativeName);
 };
 
 } // namespace Viewer

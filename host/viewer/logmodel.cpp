@@ -36,7 +36,7 @@ QVariant LogModel::data(const QModelIndex &index, int role) const
     }
     const Host::LogEntry &entry = m_entries.at(index.row());
     if (role == Qt::ToolTipRole) {
-        return toLine(entry);
+        return Host::toLine(entry);
     }
     if (role != Qt::DisplayRole) {
         return QVariant();
@@ -45,7 +45,7 @@ QVariant LogModel::data(const QModelIndex &index, int role) const
     case Time:
         return entry.time.toString(QStringLiteral("HH:mm:ss.zzz"));
     case Level:
-        return levelText(entry.level);
+        return Host::levelText(entry.level);
     case Category:
         return entry.category;
     default:
@@ -72,7 +72,7 @@ QVariant LogModel::headerData(int section, Qt::Orientation orientation, int role
 
 QString LogModel::line(int row) const
 {
-    return toLine(m_entries.at(row));
+    return Host::toLine(m_entries.at(row));
 }
 
 void LogModel::clear()

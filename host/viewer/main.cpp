@@ -75,7 +75,7 @@ int run(const Viewer::Options &options)
 {
     useSettingsFolder(options.settings);
     if (!options.language.isEmpty()) {
-        Host::LanguageChoice::overrideForThisRun(options.language);
+        Host::LanguageChoice::setOverride(options.language);
     }
     installQtTranslation(Host::LanguageChoice::current());
     Host::prepareQuick();

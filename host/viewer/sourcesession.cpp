@@ -244,7 +244,7 @@ void SourceSession::announceActive(int index)
 
 QSharedPointer<IFeatureTreeControlService> SourceSession::panes() const
 {
-    return Host::findService<IFeatureTreeControlService>(*m_registry);
+    return Host::findService<IFeatureTreeControlService>(m_registry);
 }
 
 } // namespace Viewer

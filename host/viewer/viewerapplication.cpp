@@ -54,7 +54,7 @@ void ViewerApplication::start(const QString &pluginFolder)
     m_loader->loadFolder(pluginFolder);
     m_loader->initialize(LanguageHelper::loadLanguageId());
     m_window->setLoader(m_loader.data());
-    const auto status = Host::findService<IFeatureTreeStatusService>(*m_registry);
+    const auto status = Host::findService<IFeatureTreeStatusService>(m_registry);
     m_feature->follow(status);
     if (status) {
         connect(status.data(), &IFeatureTreeStatusService::newText, m_window->statusBar(),

@@ -49,7 +49,7 @@ void GlyphsTest::eachLanguageHasGlyphs_data()
 void GlyphsTest::eachLanguageHasGlyphs()
 {
     QFETCH(QString, text);
-    QVERIFY(Host::LanguageChoice::codes().contains(QLatin1String(QTest::currentDataTag())));
+    QVERIFY(Host::LanguageChoice::isKnown(QLatin1String(QTest::currentDataTag())));
     QCOMPARE(missingGlyphs(text), 0);
 }
 

@@ -83,7 +83,7 @@ private Q_SLOTS:
     void modelFollowsTheSession();
 
 private:
-    WarningGuard m_guard;
+    Tests::WarningGuard m_guard;
     QSharedPointer<Host::ServiceRegistry> m_registry;
     QSharedPointer<Host::ParameterPool> m_pool;
     QScopedPointer<SourceSession> m_session;
@@ -92,7 +92,7 @@ private:
 
 void SourceSessionTest::init()
 {
-    m_guard.init();
+    m_guard.begin();
     m_registry = QSharedPointer<Host::ServiceRegistry>::create();
     m_pool = QSharedPointer<Host::ParameterPool>::create();
     m_session.reset(new SourceSession(m_registry, m_pool));
@@ -107,7 +107,7 @@ void SourceSessionTest::cleanup()
     m_session->closeAll();
     m_session.reset();
     m_registry->clear();
-    m_guard.cleanup();
+    m_guard.verify();
 }
 
 void SourceSessionTest::refusesAnUnknownSource()
