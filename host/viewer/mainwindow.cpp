@@ -12,6 +12,7 @@
 #include "sourcesession.h"
 #include "visibilitylevel.h"
 
+#include <host/framework/hostids.h>
 #include <host/framework/menuservice.h>
 #include <host/framework/pluginloader.h>
 #include <host/framework/windowservice.h>
@@ -50,7 +51,7 @@ MainWindow::MainWindow(SourceSession *session, CurrentFeature *feature)
     : m_session(session)
     , m_feature(feature)
     , m_menuService(QSharedPointer<Host::MenuService>::create(this))
-    , m_windowService(QSharedPointer<Host::WindowService>::create(this))
+    , m_windowService(QSharedPointer<Host::WindowService>::create(this, m_menuService))
     , m_visibilityLevel(new VisibilityLevel(this))
 {
     setObjectName(QStringLiteral("viewerWindow"));
@@ -136,11 +137,11 @@ QMenu *MainWindow::makeContainerMenu(const Core::CId &id, const QString &title)
 
 void MainWindow::makeMenus()
 {
-    const Core::CId cameraId("VantrelViewer.Menu.Camera");
+    const Core::CId cameraId(Host::Ids::cameraMenu);
     QMenu *camera = makeContainerMenu(cameraId, tr("&Camera"));
     camera->addActions(m_devices->sourceActions());
     camera->addSeparator();
-    m_menuService->addGroup(cameraId, Core::CId("VantrelViewer.Group.Camera.Features"));
+    m_menuService->addGroup(cameraId, Core::CId(Host::Ids::cameraFeaturesGroup));
     camera->addSeparator();
     camera->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
 
@@ -155,19 +156,19 @@ void MainWindow::makeMenus()
     connect(language, &LanguageMenu::hint, this,
             [this](const QString &text) { statusBar()->showMessage(text); });
 
-    const Core::CId windowId("VantrelViewer.Menu.Window");
+    const Core::CId windowId(Host::Ids::windowMenu);
     QMenu *window = makeContainerMenu(windowId, tr("&Window"));
     const auto docks = findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly);
     for (QDockWidget *dock : docks) {
         window->addAction(dock->toggleViewAction());
     }
     window->addSeparator();
-    m_menuService->addGroup(windowId, Core::CId("VantrelViewer.Group.Window.Windows"));
+    m_menuService->addGroup(windowId, Core::CId(Host::Ids::windowsGroup));
 
     menuBar()->addMenu(tr("&Help"))->addAction(tr("&About"), this, &MainWindow::showAbout);
 
     auto *context = new QMenu(this);
-    m_menuService->createContainer(Core::CId("VantrelViewer.FeatureTreeContextMenu"), context);
+    m_menuService->createContainer(Core::CId(Host::Ids::featureTreeContextMenu), context);
     new FeatureContextMenu(context, m_feature, m_visibilityLevel, this);
 }
 

@@ -106,7 +106,7 @@ QString ViewerApplication::featureText() const
     if (!command) {
         throw std::runtime_error(tr("no plug-in offers to copy the features").toStdString());
     }
-    command->action()->trigger();
+    command->proxy()->trigger();
     return QGuiApplication::clipboard()->text();
 }
 
