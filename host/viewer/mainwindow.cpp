@@ -16,6 +16,7 @@
 #include <host/framework/menuservice.h>
 #include <host/framework/pluginloader.h>
 #include <host/framework/windowservice.h>
+#include <plugin/contract/appcore/actioncontainer.h>
 #include <plugin/contract/core/id.h>
 
 #include <QApplication>
@@ -27,6 +28,8 @@
 #include <QStatusBar>
 
 namespace Viewer {
+
+using Core::AppCoreComponents::CContext;
 
 namespace {
 
@@ -142,8 +145,13 @@ void MainWindow::makeMenus()
     camera->addActions(m_devices->sourceActions());
     camera->addSeparator();
     m_menuService->addGroup(cameraId, Core::CId(Host::Ids::cameraFeaturesGroup));
-    camera->addSeparator();
-    camera->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+    auto *quit = new QAction(tr("&Quit"), this);
+    quit->setShortcut(QKeySequence::Quit);
+    connect(quit, &QAction::triggered, this, &QWidget::close);
+    m_menuService->actionContainer(cameraId)->addAction(
+        m_menuService->registerAction(quit, Core::CId("VantrelViewer.Quit"),
+                                      CContext(Core::CId(Host::Ids::globalContext))),
+        Core::CId("VantrelViewer.Group.Camera.Application"));
 
     QMenu *view = menuBar()->addMenu(tr("&View"));
     view->addSection(tr("Visibility Level"));
