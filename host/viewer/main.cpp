@@ -5,7 +5,7 @@
 #include "viewerapplication.h"
 
 #include <host/framework/languagechoice.h>
-#include <host/framework/preparequick.h>
+#include <host/framework/quick.h>
 
 #include <QApplication>
 #include <QLibraryInfo>

@@ -16,6 +16,7 @@
 #include <host/framework/menuservice.h>
 #include <host/framework/parameterpool.h>
 #include <host/framework/plugincatalogue.h>
+#include <host/framework/pluginerror.h>
 #include <host/framework/pluginloader.h>
 #include <host/framework/serviceregistry.h>
 #include <host/framework/windowservice.h>
@@ -25,6 +26,7 @@
 
 #include <QAction>
 #include <QClipboard>
+#include <QDir>
 #include <QGuiApplication>
 #include <QStatusBar>
 #include <QTextStream>
@@ -51,8 +53,7 @@ void ViewerApplication::start(const QString &pluginFolder)
 {
     makeServices();
     m_loader.reset(new Host::PluginLoader(m_registry, m_catalogue));
-    m_loader->loadFolder(pluginFolder);
-    m_loader->initialize(LanguageHelper::loadLanguageId());
+    loadPlugins(pluginFolder);
     m_window->setLoader(m_loader.data());
     const auto status = Host::findService<IFeatureTreeStatusService>(m_registry);
     m_feature->follow(status);
@@ -128,6 +129,19 @@ void ViewerApplication::makeServices()
         m_session->add(id);
     }
     m_catalogue->setWorkbenchOffered(true);
+}
+
+void ViewerApplication::loadPlugins(const QString &folder)
+{
+    const auto files = QDir(folder).entryInfoList(QDir::Files, QDir::Name);
+    if (files.isEmpty()) {
+        throw Host::PluginError(folder, tr("there is no plug-in in this folder."));
+    }
+    const QString language = LanguageHelper::loadLanguageId();
+    for (const QFileInfo &file : files) {
+        m_loader->load(file.canonicalFilePath(), language);
+    }
+    m_loader->start();
 }
 
 void ViewerApplication::openSources()

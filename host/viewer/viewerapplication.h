@@ -52,6 +52,7 @@ Q_SIGNALS:
 
 private:
     void makeServices();
+    void loadPlugins(const QString &folder);
     void openSources();
     void applyPaneOptions();
     void startUnattendedWork();
