@@ -9,7 +9,13 @@
 
 #include "plugin/contract/core/baseexception.h"
 
-#include <QDir>
+#include <QtGlobal>
+
+/// The resources of a static library have to be asked for, from outside any namespace.
+static void initResources()
+{
+    Q_INIT_RESOURCE(simulation);
+}
 
 namespace Simulation {
 
@@ -35,6 +41,7 @@ QSharedPointer<SimulatedSource> SourceCatalogue::makeSource(const QString &id)
                                  .arg(id, ids().join(QStringLiteral(", ")));
         throw Core::Exception::BaseException(line.toStdString());
     }
+    initResources();
     DescriptionReader reader;
     const QString fileName = QStringLiteral(":/simulation/%1.json").arg(id.mid(idPrefix().size()));
     const auto description = reader.read(fileName);
