@@ -10,8 +10,12 @@ function(tessera_sources target)
     if(headers)
         file(RELATIVE_PATH set_name "${PROJECT_SOURCE_DIR}" "${CMAKE_CURRENT_SOURCE_DIR}")
         string(MAKE_C_IDENTIFIER "headers_${set_name}" set_name)
+        set(root "${PROJECT_SOURCE_DIR}")
+        if(CMAKE_CURRENT_SOURCE_DIR MATCHES "^${PROJECT_SOURCE_DIR}/tessera/")
+            set(root "${PROJECT_SOURCE_DIR}/tessera")
+        endif()
         target_sources(${target} PUBLIC FILE_SET ${set_name} TYPE HEADERS
-                       BASE_DIRS "${CMAKE_CURRENT_SOURCE_DIR}" FILES ${headers})
+                       BASE_DIRS "${root}" FILES ${headers})
     endif()
 endfunction()
 

@@ -6,6 +6,7 @@
 
 #include <host/framework/languagechoice.h>
 #include <host/framework/quick.h>
+#include <plugin/contract/core/baseexception.h>
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -88,6 +89,9 @@ int run(const Viewer::Options &options)
         viewer.start(QCoreApplication::applicationDirPath()
                      + QStringLiteral("/../" TESSERA_PLUGIN_DIR));
     } catch (const std::exception &e) {
+        complain(QString::fromUtf8(e.what()));
+        return exitRefused;
+    } catch (const Core::Exception::BaseException &e) {
         complain(QString::fromUtf8(e.what()));
         return exitRefused;
     }

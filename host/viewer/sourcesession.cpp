@@ -8,8 +8,9 @@
 #include <host/framework/parameterpool.h>
 #include <host/framework/serviceregistry.h>
 #include <host/framework/sourcerecord.h>
+#include <host/simulation/simulatedcollection.h>
 #include <host/simulation/simulatedsource.h>
-#include <host/simulation/sourcecatalogue.h>
+#include <plugin/contract/core/logging.h>
 #include <plugin/contract/viewer/exceptiondialogs.h>
 #include <plugin/contract/viewer/featuretreecontrolservice.h>
 
@@ -29,7 +30,7 @@ struct SourceSession::Entry
 
 namespace {
 
-BaseInfoPtr makeRecord(const Simulation::SourceInfo &info)
+BaseInfoPtr makeRecord(const Simulation::DeviceInfo &info)
 {
     if (info.category == QLatin1String("Device")) {
         return QSharedPointer<Host::CameraRecord>::create(info.displayName, info.model,
@@ -38,7 +39,20 @@ BaseInfoPtr makeRecord(const Simulation::SourceInfo &info)
     return QSharedPointer<Host::SourceRecord>::create(info.category);
 }
 
+// A description with a mistake still gives a source, without the entry that has it.
+void logProblem(const QString &problem)
+{
+    static const quint64 category = Core::Logging::getCatId("vantrel.viewer.sources");
+    Core::Logging::createLogEntry(Core::Logging::ELogLevel::Fault, category, problem);
+}
+
 } // namespace
+
+void SourceSession::addAll()
+{
+    const QStringList ids = m_catalogue.ids();
+    std::for_each(ids.cbegin(), ids.cend(), [this](const QString &id) { add(id); });
+}
 
 SourceSession::SourceSession(QSharedPointer<Host::ServiceRegistry> registry,
                              QSharedPointer<Host::ParameterPool> pool, QObject *parent)
@@ -55,7 +69,10 @@ void SourceSession::add(const QString &id)
     if (indexOf(id) >= 0) {
         return;
     }
-    const auto source = Simulation::SourceCatalogue::create(id);
+    const auto source = m_catalogue.makeSource(id);
+    const QStringList problems = m_catalogue.problems();
+    std::for_each(problems.cbegin() + m_problemsLogged, problems.cend(), &logProblem);
+    m_problemsLogged = problems.size();
     const BaseInfoPtr record = makeRecord(source->info());
     m_pool->insert(record, source->collection());
     m_entries.push_back({source, record});

@@ -20,7 +20,6 @@
 #include <host/framework/pluginloader.h>
 #include <host/framework/serviceregistry.h>
 #include <host/framework/windowservice.h>
-#include <host/simulation/sourcecatalogue.h>
 #include <plugin/contract/core/languagehelper.h>
 #include <plugin/contract/viewer/featuretreestatusservice.h>
 
@@ -124,10 +123,7 @@ void ViewerApplication::makeServices()
     m_registry->registerService(m_pool);
     m_registry->registerService(m_window->menuService());
     m_registry->registerService(m_window->windowService());
-    const auto ids = Simulation::SourceCatalogue::ids();
-    for (const QString &id : ids) {
-        m_session->add(id);
-    }
+    m_session->addAll();
     m_catalogue->setWorkbenchOffered(true);
 }
 
@@ -146,9 +142,8 @@ void ViewerApplication::loadPlugins(const QString &folder)
 
 void ViewerApplication::openSources()
 {
-    const QStringList wanted = m_options.sources.isEmpty()
-        ? QStringList {Simulation::SourceCatalogue::ids().constFirst()}
-        : m_options.sources;
+    const QStringList wanted =
+        m_options.sources.isEmpty() ? QStringList {m_session->id(0)} : m_options.sources;
     for (const QString &id : wanted) {
         m_session->add(id);
         m_session->open(m_session->indexOf(id));
