@@ -27,12 +27,13 @@ LogView::LogView(QWidget *parent)
     setSelectionMode(ExtendedSelection);
     setTextElideMode(Qt::ElideRight);
     header()->setStretchLastSection(true);
-    const QFontMetrics metrics(font());
-    header()->resizeSection(LogModel::Time,
-                            metrics.horizontalAdvance(QStringLiteral("00:00:00.0000")) + 16);
-    header()->resizeSection(LogModel::Level,
-                            metrics.horizontalAdvance(QStringLiteral("Information")) + 24);
-    header()->resizeSection(LogModel::Category, metrics.averageCharWidth() * 42);
+    const auto fitTo = [this](int column, const QString &text) {
+        header()->resizeSection(column,
+                                fontMetrics().horizontalAdvance(text + QLatin1String("xxx")));
+    };
+    fitTo(LogModel::Time, QStringLiteral("00:00:00"));
+    fitTo(LogModel::Level, QStringLiteral("Information"));
+    fitTo(LogModel::Category, QStringLiteral("vantrel.viewer"));
 
     auto *copyAction = new QAction(tr("&Copy"), this);
     copyAction->setShortcut(QKeySequence::Copy);

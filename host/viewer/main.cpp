@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "commandline.h"
+#include "qtmessages.h"
 #include "viewerapplication.h"
 
 #include <host/framework/languagechoice.h>
@@ -104,6 +105,7 @@ int run(const Viewer::Options &options)
 
 int main(int argc, char *argv[])
 {
+    Viewer::sendQtMessagesToLog();
     // Before any plug-in: their settings lie under these names.
     QCoreApplication::setOrganizationName(QStringLiteral("Tessera"));
     QCoreApplication::setApplicationName(QStringLiteral("tessera-viewer"));

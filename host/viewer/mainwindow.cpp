@@ -27,6 +27,8 @@
 #include <QSettings>
 #include <QStatusBar>
 
+#include <algorithm>
+
 namespace Viewer {
 
 using Core::AppCoreComponents::CContext;
@@ -95,7 +97,9 @@ void MainWindow::restoreLayout()
 {
     QSettings settings;
     restoreGeometry(settings.value(layoutKey("Geometry")).toByteArray());
-    restoreState(settings.value(layoutKey("State")).toByteArray());
+    if (!restoreState(settings.value(layoutKey("State")).toByteArray())) {
+        arrangeDocks();
+    }
 }
 
 void MainWindow::saveLayout() const
@@ -126,9 +130,24 @@ void MainWindow::makeDocks()
     QDockWidget *log = addDock(this, QStringLiteral("Viewer.Dock.Log"), tr("Log"),
                                new LogView(this), Qt::BottomDockWidgetArea);
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
-    resizeDocks({devices}, {width() / 4}, Qt::Horizontal);
-    resizeDocks({documentation, log}, {width() / 3, width() / 3}, Qt::Horizontal);
-    resizeDocks({documentation}, {height() / 4}, Qt::Vertical);
+    m_docks = {devices, documentation, log};
+}
+
+// The first start: most of the window belongs to the features.
+void MainWindow::arrangeDocks()
+{
+    QDockWidget *devices = m_docks.at(0);
+    QDockWidget *documentation = m_docks.at(1);
+    QDockWidget *log = m_docks.at(2);
+    const auto docks = findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    const auto features = std::find_if(docks.cbegin(), docks.cend(), [this](QDockWidget *dock) {
+        return dockWidgetArea(dock) == Qt::RightDockWidgetArea && !dock->isHidden();
+    });
+    if (features != docks.cend()) {
+        resizeDocks({devices, *features}, {width() / 4, width() * 3 / 4}, Qt::Horizontal);
+        resizeDocks({*features, documentation}, {height() * 3 / 4, height() / 4}, Qt::Vertical);
+    }
+    resizeDocks({documentation, log}, {width() * 3 / 10, width() * 45 / 100}, Qt::Horizontal);
 }
 
 QMenu *MainWindow::makeContainerMenu(const Core::CId &id, const QString &title)
@@ -166,8 +185,7 @@ void MainWindow::makeMenus()
 
     const Core::CId windowId(Host::Ids::windowMenu);
     QMenu *window = makeContainerMenu(windowId, tr("&Window"));
-    const auto docks = findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    for (QDockWidget *dock : docks) {
+    for (QDockWidget *dock : qAsConst(m_docks)) {
         window->addAction(dock->toggleViewAction());
     }
     window->addSeparator();

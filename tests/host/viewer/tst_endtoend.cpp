@@ -145,7 +145,7 @@ QSharedPointer<Simulation::SimulatedCollection> EndToEndTest::camera(const char 
 void EndToEndTest::showsTheCameraInTheAllPane()
 {
     QVERIFY(tree());
-    QCOMPARE(tree()->model()->index(0, 0).data().toString(), QStringLiteral("TO-5000G"));
+    QCOMPARE(tree()->model()->index(0, 0).data().toString(), QStringLiteral("TO-5000G (305174)"));
     QTRY_COMPARE(valueOnScreen(path("Width")),
                  camera("simulated:gige")->deviceValue(path("Width")).toString());
 }
@@ -213,10 +213,10 @@ void EndToEndTest::switchesBetweenSources()
     const int usb = session->indexOf(QStringLiteral("simulated:usb"));
     session->requestOpen(usb);
     QTRY_COMPARE(session->activeIndex(), usb);
-    QCOMPARE(tree()->model()->index(0, 0).data().toString(), QStringLiteral("TO-5000U"));
+    QCOMPARE(tree()->model()->index(0, 0).data().toString(), QStringLiteral("TO-5000U (305179)"));
     session->requestClose(usb);
     QTRY_VERIFY(!session->isOpen(usb));
-    QCOMPARE(tree()->model()->index(0, 0).data().toString(), QStringLiteral("TO-5000G"));
+    QCOMPARE(tree()->model()->index(0, 0).data().toString(), QStringLiteral("TO-5000G (305174)"));
     session->requestClose(session->activeIndex());
     QTRY_COMPARE(session->activeIndex(), -1);
     QVERIFY(!tree());
@@ -254,7 +254,7 @@ void EndToEndTest::copiesTheFeaturesAsText()
     QGuiApplication::clipboard()->clear();
     QTest::keyClick(m_viewer->window(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     const QStringList lines = QGuiApplication::clipboard()->text().split(QLatin1Char('\n'));
-    QCOMPARE(lines.constFirst(), QStringLiteral("TO-5000G"));
+    QCOMPARE(lines.constFirst(), QStringLiteral("TO-5000G (305174)"));
     QVERIFY(lines.size() > 250);
     const QString width =
         QStringLiteral("\t") + camera("simulated:gige")->deviceValue(path("Width")).toString();
