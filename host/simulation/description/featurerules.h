@@ -76,6 +76,7 @@ struct FeatureRules
     int aliasId = -1; ///< number of the companion of this float
     int aliasOf = -1; ///< number of the float whose companion this is
     Activity behaviour;
+    QVector<Condition> activeWhile; ///< the behaviour runs while all hold
     Activity effect;
     int durationMs = 0; ///< run time of a command
     bool isPolled = false; ///< changes on the camera's side are not reported

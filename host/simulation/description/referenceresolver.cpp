@@ -5,6 +5,7 @@
 
 #include "devicedescription.h"
 #include "jsonvalues.h"
+#include "rulesreader.h"
 
 #include <algorithm>
 
@@ -13,6 +14,21 @@ using ParameterCollection::ParameterType;
 namespace Simulation {
 
 namespace {
+
+QStringList behaviourKinds()
+{
+    return {QStringLiteral("drift"),    QStringLiteral("counter"),
+            QStringLiteral("clock"),    QStringLiteral("autoExposure"),
+            QStringLiteral("autoGain"), QStringLiteral("autoWhiteBalance")};
+}
+
+QStringList effectKinds()
+{
+    return {QStringLiteral("set"),         QStringLiteral("acquisitionStart"),
+            QStringLiteral("latch"),       QStringLiteral("acquisitionStop"),
+            QStringLiteral("userSetLoad"), QStringLiteral("softwareTrigger"),
+            QStringLiteral("userSetSave"), QStringLiteral("reset")};
+}
 
 /// Resolves the rules of one feature after the other, collecting what is wrong.
 class Resolver final
@@ -33,9 +49,12 @@ public:
             return;
         resolve(rules->lockedWhile);
         resolve(rules->availableWhile);
+        resolve(rules->activeWhile, false);
         resolve(rules->minimum);
         resolve(rules->maximum);
         resolveSelection(*rules);
+        checkActivity(rules->behaviour, behaviourKinds());
+        checkActivity(rules->effect, effectKinds());
         if (rules->aliasOf >= 0) {
             follow(rules->aliasOf);
             m_description.feature(id).dependants.append(rules->aliasOf);
@@ -50,19 +69,28 @@ private:
         problems.append(m_description.fullName(m_id) % QStringLiteral(": ") % what);
     }
 
+    /// Whatever a float hangs on, its companion hangs on too.
     void follow(int leader)
     {
-        QVector<int> &dependants = m_description.feature(leader).dependants;
-        if (leader != m_id && !dependants.contains(m_id))
-            dependants.append(m_id);
+        addDependant(leader, m_id);
+        const auto &rules = m_description.feature(m_id).rules;
+        if (rules && rules->aliasId >= 0)
+            addDependant(leader, rules->aliasId);
     }
 
-    bool find(FeatureReference &reference)
+    void addDependant(int leader, int id)
+    {
+        QVector<int> &dependants = m_description.feature(leader).dependants;
+        if (leader != id && !dependants.contains(id))
+            dependants.append(id);
+    }
+
+    bool find(FeatureReference &reference, bool isFollowed = true)
     {
         reference.id = m_description.findFrom(m_id, reference.name);
         if (reference.id < 0)
             report(QStringLiteral("there is no feature \"%1\"").arg(reference.name));
-        else
+        else if (isFollowed)
             follow(reference.id);
         return reference.id >= 0;
     }
@@ -82,9 +110,9 @@ private:
         return integerFromText(text, ok);
     }
 
-    bool resolve(Condition &condition)
+    bool resolve(Condition &condition, bool isFollowed = true)
     {
-        if (!find(condition.feature))
+        if (!find(condition.feature, isFollowed))
             return false;
         for (const QString &text : qAsConst(condition.is)) {
             bool ok = false;
@@ -98,11 +126,11 @@ private:
         return true;
     }
 
-    void resolve(QVector<Condition> &conditions)
+    void resolve(QVector<Condition> &conditions, bool isFollowed = true)
     {
-        const auto wrong =
-            std::remove_if(conditions.begin(), conditions.end(),
-                           [this](Condition &condition) { return !resolve(condition); });
+        const auto wrong = std::remove_if(
+            conditions.begin(), conditions.end(),
+            [this, isFollowed](Condition &condition) { return !resolve(condition, isFollowed); });
         conditions.erase(wrong, conditions.end());
     }
 
@@ -131,6 +159,52 @@ private:
                            .arg(it.key(), rules.selectedBy.name));
         }
         rules.selectedTexts.clear();
+    }
+
+    /// What an effect sets has to be a value of the feature that it sets.
+    bool hasRightValue(const Activity &activity)
+    {
+        const QString key = QStringLiteral("value");
+        const int target = m_description.findFrom(
+            m_id, activity.parameters.value(QLatin1String("feature")).toString());
+        if (activity.kind == QLatin1String("latch") || target < 0)
+            return true;
+        try {
+            readValue(activity.parameters.value(key), key, m_description.feature(target));
+            return true;
+        } catch (const BadEntry &bad) {
+            report(bad.what());
+            return false;
+        }
+    }
+
+    /// Drops an activity of a kind that no device knows, or one that names unknown features.
+    void checkActivity(Activity &activity, const QStringList &kinds)
+    {
+        if (activity.kind.isEmpty())
+            return;
+        QStringList names =
+            activity.parameters.value(QLatin1String("counts")).toVariant().toStringList();
+        QStringList keys {QStringLiteral("feature"), QStringLiteral("moves"),
+                          QStringLiteral("lower"), QStringLiteral("upper"),
+                          QStringLiteral("target")};
+        if (activity.kind == QLatin1String("latch"))
+            keys.append(QStringLiteral("value"));
+        for (const QString &key : qAsConst(keys)) {
+            if (activity.parameters.contains(key))
+                names.append(activity.parameters.value(key).toString());
+        }
+        bool isRight = kinds.contains(activity.kind);
+        if (!isRight)
+            report(QStringLiteral("nothing is known of the kind \"%1\"").arg(activity.kind));
+        for (const QString &name : qAsConst(names)) {
+            FeatureReference reference;
+            reference.name = name;
+            isRight = find(reference, false) && isRight;
+        }
+        isRight = isRight && hasRightValue(activity);
+        if (!isRight)
+            activity = {};
     }
 
     DeviceDescription &m_description;

@@ -158,6 +158,8 @@ void readRules(const QJsonObject &object, FeatureDescription &feature)
     if (object.contains(QLatin1String("alias")))
         rules.alias = readAlias(object.value(QLatin1String("alias")).toObject());
     rules.behaviour = readActivity(object, QStringLiteral("behaviour"));
+    rules.activeWhile = readConditions(rules.behaviour.parameters.value(QLatin1String("while")),
+                                       QStringLiteral("behaviour/while"));
     rules.effect = readActivity(object, QStringLiteral("effect"));
     rules.durationMs = object.value(QLatin1String("durationMs")).toInt();
     rules.isPolled = object.value(QLatin1String("polled")).toBool();

@@ -7,8 +7,10 @@ namespace Simulation {
 
 class DeviceState;
 
-/// Does what the command `id` is there for, as its description says: start or stop the
-/// acquisition, load or save a user set, reset the device, set or count up another feature.
+/// Does what the command `id` is there for, by the kind of its effect: "set", "acquisitionStart"
+/// and "acquisitionStop" give a feature a value, "latch" copies one feature to another,
+/// "softwareTrigger" counts features up, "userSetLoad" and "userSetSave" use the set that the
+/// command's selector names, "reset" brings everything back. Without an effect nothing happens.
 void applyEffect(DeviceState &state, int id);
 
 } // namespace Simulation

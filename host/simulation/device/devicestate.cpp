@@ -6,6 +6,7 @@
 #include "aliasmapping.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 using ParameterCollection::ParameterType;
@@ -74,10 +75,21 @@ Value DeviceState::value(int id) const
                               numberOf(range.minimum), numberOf(range.maximum));
     }
     if (hangsOnSelector(described)) {
-        const auto selection = m_image.selections.constFind(id);
-        return selection->value(selectorValue(id), described.value);
+        return selectedValue(id, selectorValue(id));
     }
     return m_image.values[static_cast<std::size_t>(id)];
+}
+
+Value DeviceState::selectedValue(int id, qint64 selection) const
+{
+    return m_image.selections.constFind(id)->value(selection, feature(id).value);
+}
+
+Value DeviceState::numberAs(int id, double number) const
+{
+    if (feature(id).type == ParameterType::Float)
+        return number;
+    return static_cast<qint64>(std::llround(number));
 }
 
 Value DeviceState::limitOf(int id, const std::optional<MovingLimit> &limit,
@@ -114,6 +126,12 @@ bool DeviceState::holds(const Condition &condition) const
     return condition.values.contains(integerOf(value(condition.feature.id)));
 }
 
+bool DeviceState::holdAll(const QVector<Condition> &conditions) const
+{
+    return std::all_of(conditions.cbegin(), conditions.cend(),
+                       [this](const Condition &condition) { return holds(condition); });
+}
+
 AccessMode DeviceState::access(int id) const
 {
     const FeatureDescription &described = feature(id);
@@ -123,7 +141,7 @@ AccessMode DeviceState::access(int id) const
         return access(described.rules->aliasOf);
     const auto isTrue = [this](const Condition &condition) { return holds(condition); };
     const FeatureRules &rules = *described.rules;
-    if (!std::all_of(rules.availableWhile.cbegin(), rules.availableWhile.cend(), isTrue))
+    if (!holdAll(rules.availableWhile))
         return AccessMode::NotAvailable;
     if (std::any_of(rules.lockedWhile.cbegin(), rules.lockedWhile.cend(), isTrue))
         return narrowed(described.access, AccessMode::ReadOnly);
@@ -133,12 +151,10 @@ AccessMode DeviceState::access(int id) const
 QVector<int> DeviceState::entries(int id) const
 {
     const QVector<EntryDescription> &all = feature(id).entries;
-    const auto isTrue = [this](const Condition &condition) { return holds(condition); };
     QVector<int> available;
     available.reserve(all.size());
     for (int i = 0; i < all.size(); ++i) {
-        const QVector<Condition> &conditions = all.at(i).availableWhile;
-        if (std::all_of(conditions.cbegin(), conditions.cend(), isTrue))
+        if (holdAll(all.at(i).availableWhile))
             available.append(i);
     }
     return available;

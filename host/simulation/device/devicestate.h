@@ -36,6 +36,11 @@ public:
     /// companion as its float gives it.
     Value value(int id) const;
     Limits limits(int id) const;
+    /// The value of a feature that hangs on a selector, for another value of that selector.
+    Value selectedValue(int id, qint64 selection) const;
+    bool holdAll(const QVector<Condition> &conditions) const;
+    /// `number` as a value of the feature: rounded where that is an integer.
+    Value numberAs(int id, double number) const;
     AccessMode access(int id) const;
     /// The numbers of the entries that can be selected at present.
     QVector<int> entries(int id) const;

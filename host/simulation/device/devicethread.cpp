@@ -9,7 +9,7 @@ namespace Simulation {
 
 namespace {
 
-constexpr std::chrono::milliseconds pace {20};
+constexpr std::chrono::milliseconds pace {50};
 
 } // namespace
 
