@@ -26,6 +26,7 @@ struct SourceSession::Entry
 {
     QSharedPointer<Simulation::SimulatedSource> source;
     BaseInfoPtr record;
+    bool isOpen = false; ///< for the user; a device that was unplugged stays so until it is closed
 };
 
 namespace {
@@ -75,7 +76,7 @@ void SourceSession::add(const QString &id)
     m_problemsLogged = problems.size();
     const BaseInfoPtr record = makeRecord(source->info());
     m_pool->insert(record, source->collection());
-    m_entries.push_back({source, record});
+    m_entries.push_back({source, record, false});
     Q_EMIT changed(-1);
 }
 
@@ -122,7 +123,7 @@ QString SourceSession::kind(int index) const
 bool SourceSession::isOpen(int index) const
 {
     const Entry *found = entry(index);
-    return found && found->source->isOpen();
+    return found && found->isOpen;
 }
 
 int SourceSession::activeIndex() const
@@ -148,7 +149,7 @@ void SourceSession::open(int index)
     if (!opening) {
         return;
     }
-    if (opening->source->isOpen()) {
+    if (opening->isOpen) {
         setActive(index);
         return;
     }
@@ -159,6 +160,7 @@ void SourceSession::open(int index)
                       tr("%1 could not be opened.").arg(displayName(index)), nullptr);
         return;
     }
+    opening->isOpen = true;
     if (const auto service = panes()) {
         service->registerParameterSource(opening->record);
     }
@@ -169,7 +171,7 @@ void SourceSession::open(int index)
 void SourceSession::close(int index)
 {
     Entry *closing = entry(index);
-    if (!closing || !closing->source->isOpen()) {
+    if (!closing || !closing->isOpen) {
         return;
     }
     // The panes let go of the source before it falls silent; then the next one is named, because
@@ -178,6 +180,7 @@ void SourceSession::close(int index)
         service->unregisterParameterSource(closing->record);
     }
     closing->source->close();
+    closing->isOpen = false;
     Q_EMIT changed(index);
     Q_EMIT closed(index);
     announceActive(m_active == index ? openNeighbour(index) : m_active);

@@ -46,6 +46,7 @@ private Q_SLOTS:
     void showsTheCameraInTheAllPane();
     void writesWhatIsTyped_data();
     void writesWhatIsTyped();
+    void executesACommand();
     void refusedValueFallsBackToTheCamerasOwn();
     void showsWhatChangesInTheCamera();
     void switchesBetweenSources();
@@ -72,6 +73,8 @@ void EndToEndTest::init()
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
     m_viewer.reset(new ViewerApplication({}));
     m_viewer->start(QStringLiteral(PLUGIN_FOLDER));
+    // Without a window manager nobody else gives the window the focus.
+    m_viewer->window()->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_viewer->window()));
 }
 
@@ -182,6 +185,20 @@ void EndToEndTest::writesWhatIsTyped()
     QTRY_COMPARE(camera("simulated:gige")->deviceValue(feature), expected);
 }
 
+void EndToEndTest::executesACommand()
+{
+    QTRY_VERIFY(shown(path("AcquisitionStart")).isValid());
+    QLineEdit *editor = openEditor(path("AcquisitionStart"));
+    QVERIFY(editor);
+    QTest::keyClicks(editor, QStringLiteral("go"));
+    QTest::keyClick(editor, Qt::Key_Return);
+    // A camera that runs locks its image format.
+    QTRY_COMPARE(camera("simulated:gige")->deviceValue(path("TLParamsLocked")), QVariant(1));
+    const QModelIndex width = shown(path("Width")).siblingAtColumn(1);
+    QTRY_VERIFY(width.data(Qt::ForegroundRole).isValid()); // greyed out
+    QVERIFY(!openEditor(path("Width")));
+}
+
 void EndToEndTest::refusedValueFallsBackToTheCamerasOwn()
 {
     const QString feature = path("Width");
@@ -190,11 +207,12 @@ void EndToEndTest::refusedValueFallsBackToTheCamerasOwn()
     m_guard.expectLogEntry(Core::Logging::ELogLevel::Fault,
                            QStringLiteral("vantrel.viewer.plugins.tessera.featureTreeModel"),
                            QRegularExpression(QStringLiteral("Failed to set a feature value")));
-    QLineEdit *editor = openEditor(feature);
+    const QPointer<QLineEdit> editor = openEditor(feature);
     QVERIFY(editor);
     QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(editor, QStringLiteral("99999999"));
     QTest::keyClick(editor, Qt::Key_Return);
+    QTRY_VERIFY(!editor); // committed and closed from the event loop
     QTRY_COMPARE(valueOnScreen(feature), before);
     QCOMPARE(camera("simulated:gige")->deviceValue(feature).toString(), before);
 }
