@@ -15,13 +15,18 @@ constexpr std::chrono::milliseconds pace {50};
 
 DeviceThread::DeviceThread(std::function<bool(int)> tick)
     : m_tick(std::move(tick))
+    , m_thread([this] { run(); })
 {
-    setObjectName(QStringLiteral("SimulatedDevice"));
 }
 
 DeviceThread::~DeviceThread()
 {
-    finish();
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isFinished = true;
+    }
+    m_condition.notify_one();
+    m_thread.join();
 }
 
 void DeviceThread::wake()
@@ -31,16 +36,6 @@ void DeviceThread::wake()
         m_isAwake = true;
     }
     m_condition.notify_one();
-}
-
-void DeviceThread::finish()
-{
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_isFinished = true;
-    }
-    m_condition.notify_one();
-    wait();
 }
 
 void DeviceThread::run()

@@ -55,7 +55,6 @@ void SimulatedDevice::start()
         advance(elapsedMs);
         return isBusy();
     });
-    m_thread->start();
 }
 
 void SimulatedDevice::stop()
