@@ -1,11 +1,16 @@
 // SPDX-FileCopyrightText: 2026 Tessera contributors
 // SPDX-License-Identifier: MIT
 
+#include "host/framework/camerarecord.h"
+#include "host/framework/findservice.h"
 #include "host/framework/log.h"
+#include "host/framework/parameterpool.h"
 #include "host/framework/plugincatalogue.h"
 #include "host/framework/pluginerror.h"
 #include "host/framework/pluginloader.h"
 #include "host/framework/serviceregistry.h"
+#include "host/framework/sourcerecord.h"
+#include "support/fakecollection.h"
 #include "support/warningguard.h"
 
 #include <QLibrary>
@@ -14,6 +19,13 @@
 #include <QTest>
 
 #include <memory>
+
+using Core::AppCoreComponents::BaseInfoPtr;
+using Core::CameraPoolComponents::ICameraInfo;
+using Core::CameraPoolComponents::IDeviceBaseInfo;
+using Core::Service::IService;
+using ParameterCollection::IParameterCollection;
+using Plugin::ParameterCollectionPool::IParameterService;
 
 namespace {
 
@@ -37,6 +49,7 @@ QStringList steps()
 
 } // namespace
 
+// The plug-in loader, and the registry, pool and records through which plug-ins and host meet.
 class TestPluginLoader : public QObject
 {
     Q_OBJECT
@@ -51,13 +64,6 @@ private:
             return QString::fromUtf8(error.what());
         }
         return QString();
-    }
-
-    void expectFailure(const char *what)
-    {
-        m_guard.expectLogEntry(Core::Logging::ELogLevel::Failure,
-                               QStringLiteral("vantrel.viewer.pluginLoader"),
-                               QStringLiteral("Plug-in \"Plain\": ") + QLatin1String(what));
     }
 
 private Q_SLOTS:
@@ -79,18 +85,17 @@ private Q_SLOTS:
     {
         m_registry->registerService(m_catalogue);
         QCOMPARE(refusal("plain"), QString());
-        QCOMPARE(m_loader->names(), {QStringLiteral("Plain")});
-        QVERIFY(m_catalogue->isPluginAvailable(QStringLiteral("Plain")));
         m_loader->start();
         m_loader->start();
         QVERIFY(m_loader->mayClose(false));
         const QPointer<QQuickWindow> leftOver(new QQuickWindow);
+        const QPointer<QQuickWindow> owned(new QQuickWindow);
+        owned->QObject::setParent(m_catalogue.data());
         m_loader->shutDown();
-        QVERIFY(leftOver.isNull());
+        QVERIFY(leftOver.isNull() && !owned.isNull());
         QVERIFY(m_registry->services().isEmpty());
-        m_loader->shutDown();
         QCOMPARE(steps().join(QStringLiteral("; ")),
-                 QStringLiteral("constructed; Plain speaks ja; initialize; start; may close?; "
+                 QStringLiteral("Plain speaks ja; initialize; start; may close?; "
                                 "about to uninitialize; queued event; uninitialize, 2 services; "
                                 "destroyed"));
         QVERIFY(QLibrary(pathOf("plain")).isLoaded());
@@ -123,65 +128,105 @@ private Q_SLOTS:
         QCOMPARE(refusal("plain"), QString()); // everything else works
     }
 
-    void refusesTooOldADependencyAndTheSamePluginTwice()
+    void doesNotUseAPluginThatDidNotInitialize()
     {
-        QCOMPARE(refusal("plain"), QString());
+        QVERIFY(refusal("plain", "throws").endsWith(QStringLiteral("initialized: no device")));
+        m_catalogue->add(QStringLiteral("Plain"), QVersionNumber(1, 3, 1));
+        QVERIFY(refusal("needy", "fails").endsWith(QStringLiteral("could not be initialized.")));
+        QVERIFY(m_loader->names().isEmpty());
+        m_loader->start();
+        QVERIFY(m_loader->mayClose(false));
+        m_loader->shutDown();
+        QCOMPARE(steps().join(QStringLiteral("; ")),
+                 QStringLiteral("Plain speaks throws; initialize; Needy speaks fails; initialize; "
+                                "destroyed; destroyed"));
+    }
+
+    void goesOnPastAPluginThatThrows()
+    {
+        QCOMPARE(refusal("plain", "stubborn"), QString());
         QVERIFY(refusal("plain").endsWith(QStringLiteral("\"Plain\" is there already.")));
         QVERIFY(refusal("needy").endsWith(
             QStringLiteral("it needs \"Plain\" 1.3.0, and 1.2.0 is there.")));
         m_catalogue->add(QStringLiteral("Plain"), QVersionNumber(1, 3, 1));
         QCOMPARE(refusal("needy"), QString());
         QCOMPARE(m_loader->names().join(QLatin1Char(' ')), QStringLiteral("Plain Needy"));
-    }
-
-    void doesNotUseAPluginThatDidNotInitialize_data()
-    {
-        QTest::addColumn<QString>("reason");
-        QTest::newRow("initialize fails") << QStringLiteral("it could not be initialized.");
-        QTest::newRow("initialize throws")
-            << QStringLiteral("it threw while it was initialized: no device");
-    }
-
-    void doesNotUseAPluginThatDidNotInitialize()
-    {
-        QFETCH(QString, reason);
-        QVERIFY(refusal("plain", QTest::currentDataTag()).endsWith(reason));
-        QVERIFY(m_loader->names().isEmpty());
-        m_loader->start();
-        QVERIFY(m_loader->mayClose(false));
-        m_loader->shutDown();
-        QCOMPARE(steps().mid(2).join(QLatin1Char(' ')), QStringLiteral("initialize destroyed"));
-    }
-
-    void goesOnPastAPluginThatThrows()
-    {
-        QCOMPARE(refusal("plain", "stubborn"), QString());
-        m_catalogue->add(QStringLiteral("Plain"), QVersionNumber(1, 3, 1));
-        QCOMPARE(refusal("needy"), QString());
-        expectFailure("start threw: not ready");
-        expectFailure("did not start.");
-        m_loader->start();
-        QVERIFY(!m_loader->mayClose(false));
-        QVERIFY(m_loader->mayClose(true));
-        expectFailure("uninitialize threw: unknown exception");
-        expectFailure("was not taken down properly.");
-        m_loader->shutDown();
-        for (const char *step : {"start", "destroyed"}) {
-            QCOMPARE(steps().count(QLatin1String(step)), 2);
+        for (const char *failure :
+             {"start threw: not ready", "did not start.", "uninitialize threw: unknown exception",
+              "was not taken down properly."}) {
+            m_guard.expectLogEntry(Core::Logging::ELogLevel::Failure,
+                                   QStringLiteral("vantrel.viewer.pluginLoader"),
+                                   QStringLiteral("Plug-in \"Plain\": ") + QLatin1String(failure));
         }
+        m_loader->start();
+        QVERIFY(!m_loader->mayClose(false) && m_loader->mayClose(true));
+        m_loader->shutDown();
+        QCOMPARE(steps().count(QStringLiteral("start")), 2);
+        QCOMPARE(steps().count(QStringLiteral("destroyed")), 2);
     }
 
     void hostPartsAndTheWorkbenchCountAsPlugins()
     {
         for (const char *part : {"AppCore", "ParameterCollectionPool", "CameraPool"}) {
-            QVERIFY(m_catalogue->isPluginAvailable(QLatin1String(part)));
             QCOMPARE(m_catalogue->version(QLatin1String(part)), QVersionNumber(2, 0, 0));
         }
-        const QString workbench = QStringLiteral("Workbench");
-        QVERIFY(!m_catalogue->isPluginAvailable(workbench));
+        QVERIFY(!m_catalogue->isPluginAvailable(QStringLiteral("Workbench")));
         m_catalogue->setWorkbenchOffered(true);
-        QVERIFY(m_catalogue->isPluginAvailable(workbench));
-        QVERIFY(!m_catalogue->isPluginAvailable(QStringLiteral("Plain")));
+        QVERIFY(m_catalogue->isPluginAvailable(QStringLiteral("Workbench")));
+    }
+
+    void findsServicesByTheirType()
+    {
+        QVERIFY(!Host::findService<IParameterService>({}));
+        const QSharedPointer<IService> first(new Host::ParameterPool);
+        const QSharedPointer<IService> second(new Host::ParameterPool);
+        const QList<QSharedPointer<IService>> kept {m_catalogue, first, second};
+        for (const QSharedPointer<IService> &service : kept + kept) {
+            m_registry->registerService(service);
+        }
+        m_registry->registerService({});
+        QCOMPARE(m_registry->services(), kept);
+        QCOMPARE(Host::findService<IParameterService>(m_registry).data(), first.data());
+        m_registry->unregisterService(first);
+        QCOMPARE(Host::findService<IParameterService>(m_registry).data(), second.data());
+        QVERIFY(m_registry->lock()->tryLockForWrite()); // free after each use
+        m_registry->lock()->unlock();
+    }
+
+    void clearDeletesTheNewestFirstWithTheLockFree()
+    {
+        QStringList order;
+        for (const QString &name : {QStringLiteral("first"), QStringLiteral("second")}) {
+            const QSharedPointer<IService> service(new Host::ParameterPool);
+            m_registry->registerService(service);
+            connect(service.data(), &QObject::destroyed, this, [this, &order, name] {
+                order.append(name);
+                QVERIFY(m_registry->lock()->tryLockForRead());
+                m_registry->lock()->unlock();
+            });
+        }
+        m_registry->clear();
+        QCOMPARE(order.join(QLatin1Char(' ')), QStringLiteral("second first"));
+    }
+
+    void poolGivesTheCollectionOfACameraRecord()
+    {
+        Host::ParameterPool pool;
+        const BaseInfoPtr camera(new Host::CameraRecord(
+            QStringLiteral("Left"), QStringLiteral("S-1"), QStringLiteral("GEV")));
+        const BaseInfoPtr block(new Host::SourceRecord(QStringLiteral("Workbench")));
+        const QSharedPointer<IParameterCollection> collection(new Tests::FakeCollection);
+        pool.insert(camera, collection);
+        pool.remove(block);
+        QCOMPARE(pool.parameterCollection(camera).data(), collection.data());
+        QVERIFY(!pool.parameterCollection(block) && !pool.parameterCollection({}));
+        pool.remove(camera);
+        QVERIFY(!pool.parameterCollection(camera));
+        QCOMPARE(camera->sourceCategory(), QStringLiteral("Device"));
+        QCOMPARE(camera.objectCast<IDeviceBaseInfo>()->displayName(), QStringLiteral("Left"));
+        QCOMPARE(camera.objectCast<IDeviceBaseInfo>()->modelName(), QStringLiteral("S-1"));
+        QCOMPARE(camera.objectCast<ICameraInfo>()->deviceClass(), QStringLiteral("GEV"));
+        QVERIFY(!block.objectCast<IDeviceBaseInfo>());
     }
 
 private:

@@ -1,55 +1,34 @@
 // SPDX-FileCopyrightText: 2026 Tessera contributors
 // SPDX-License-Identifier: MIT
 
-#include "contractmodule.h"
-
 #include "plugin/contract/core/baseexception.h"
 #include "plugin/contract/genapi/invalidargumentexception.h"
-#include "support/fakeparameter.h"
+#include "support/fakecollection.h"
 
 #include <stdexcept>
 
-using namespace ParameterCollection;
-
-namespace {
-
-template<typename Interface> IParameter *make()
+/// Makes a collection with one parameter of each kind, named after the number of its type.
+extern "C" Q_DECL_EXPORT ParameterCollection::IParameterCollection *makeCollection()
 {
-    static const bool delayed = false;
-    return new Tests::FakeParameter<Interface>(QSharedPointer<Tests::FakeNode>::create(), delayed);
+    auto *collection = new Tests::FakeCollection;
+    collection->attach(
+        QStringLiteral("@CameraDevice"),
+        QStringLiteral("1 Integer\n2 Boolean\n3 Float\n4 Command\n5 String\n6 Enum"));
+    return collection;
 }
 
-} // namespace
-
-extern "C" Q_DECL_EXPORT IParameter *makeParameter(int kind)
-{
-    switch (kind) {
-    case ParameterType::Integer:
-        return make<IIntegerParameter>();
-    case ParameterType::Boolean:
-        return make<IBooleanParameter>();
-    case ParameterType::Float:
-        return make<IFloatParameter>();
-    case ParameterType::Command:
-        return make<ICommandParameter>();
-    case ParameterType::Enumeration:
-        return make<IEnumParameter>();
-    default:
-        return make<IParameter>();
-    }
-}
-
+/// Throws an exception of one of five kinds with the text "from afar".
 extern "C" Q_DECL_EXPORT void throwException(int kind)
 {
     constexpr char text[] = "from afar";
     switch (kind) {
-    case Generic:
+    case 0:
         throw GenICam::GenericException(text, __FILE__, __LINE__);
-    case InvalidArgument:
+    case 1:
         throw GenICam::InvalidArgumentException(text, __FILE__, __LINE__);
-    case Standard:
+    case 2:
         throw std::invalid_argument(text);
-    case Base:
+    case 3:
         throw Core::Exception::BaseException(text);
     default:
         throw kind;

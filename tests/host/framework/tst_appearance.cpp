@@ -1,0 +1,134 @@
+// SPDX-FileCopyrightText: 2026 Tessera contributors
+// SPDX-License-Identifier: MIT
+
+#include "host/framework/languagechoice.h"
+#include "host/framework/quick.h"
+#include "plugin/contract/core/languagehelper.h"
+#include "plugin/contract/viewer/stylehelper.h"
+#include "support/warningguard.h"
+
+#include <QDomDocument>
+#include <QFile>
+#include <QImage>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+namespace LanguageChoice = Host::LanguageChoice;
+
+// What the host settles for all plug-ins: language, fonts, icons and how Qt Quick draws.
+class TestAppearance : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        qunsetenv("QT_QUICK_BACKEND");
+        QCoreApplication::setOrganizationName(QStringLiteral("TesseraTests"));
+        QSettings::setDefaultFormat(QSettings::IniFormat);
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_folder.path());
+    }
+
+    void init()
+    {
+        m_guard.begin();
+        QSettings().clear();
+    }
+
+    void cleanup()
+    {
+        m_guard.verify();
+    }
+
+    void drawsWithoutOpenGl()
+    {
+        Host::prepareQuick();
+        QQuickWindow window;
+        const QSignalSpy frames(&window, &QQuickWindow::frameSwapped);
+        window.resize(20, 20);
+        window.show();
+        QTRY_VERIFY(!frames.isEmpty());
+        QCOMPARE(window.rendererInterface()->graphicsApi(), QSGRendererInterface::Software);
+    }
+
+    void offersTheFontsToScenes()
+    {
+        QQmlEngine engine;
+        QQmlComponent component(&engine);
+        component.setData("import QtQuick 2.15\nimport Corvane.Controls 1.0\n"
+                          "Text { font.family: Styling.font__Segoe_UI\n"
+                          "font.pixelSize: Styling.font__Default_Size }",
+                          QUrl());
+        const std::unique_ptr<QObject> text(component.create());
+        QVERIFY2(text, qPrintable(component.errorString()));
+        const auto font = text->property("font").value<QFont>();
+        QCOMPARE(font.family(), QStringLiteral("Segoe UI"));
+        QCOMPARE(font.pixelSize(), 16); // 12 pt at 96 dpi
+        QCOMPARE(CStyleHelper::computePixelFontSize(11), 15); // rounded up
+        QCOMPARE(CStyleHelper::computePixelFontSize(10), 13); // rounded down
+    }
+
+    void resourcesAreThere()
+    {
+        const QString folder = QStringLiteral(":/vantrelviewercomponents/Resources/");
+        for (const char *name : {"sync_16", "Move_Up", "Move_Down"}) {
+            const QString stem = folder + QLatin1String(name);
+            QCOMPARE(QImage(stem + QLatin1String(".png")).size(), QSize(16, 16));
+            QCOMPARE(QImage(stem + QLatin1String("@2x.png")).size(), QSize(32, 32));
+        }
+        QFile file(folder + QStringLiteral("Default_Filter.xml"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QDomDocument document;
+        QVERIFY(document.setContent(&file));
+        QVERIFY(document.documentElement().firstChildElement().isNull());
+    }
+
+    void speaksTheSystemsLanguageOrEnglish_data()
+    {
+        QTest::addColumn<QString>("code");
+        QTest::newRow("C") << QStringLiteral("en");
+        QTest::newRow("ja_JP.UTF-8") << QStringLiteral("ja");
+        QTest::newRow("zh_CN.UTF-8") << QStringLiteral("zh");
+        QTest::newRow("fr_FR.UTF-8") << QStringLiteral("en");
+    }
+
+    void speaksTheSystemsLanguageOrEnglish()
+    {
+        const QByteArray before = qgetenv("LC_ALL");
+        qputenv("LC_ALL", QTest::currentDataTag());
+        QLocale::system(); // reads the environment again
+        const QString current = LanguageHelper::loadLanguageId();
+        qputenv("LC_ALL", before);
+        QLocale::system();
+        QTEST(current, "code");
+    }
+
+    void keepsTheUsersChoiceBelowTheOverrideAndRefusesOthers()
+    {
+        QVERIFY(LanguageChoice::store(QStringLiteral("ja")));
+        QVERIFY(!LanguageChoice::store(QStringLiteral("fr")));
+        QVERIFY(!LanguageChoice::setOverride(QStringLiteral("en_US")));
+        QCOMPARE(LanguageHelper::loadLanguageId(), QStringLiteral("ja"));
+        QVERIFY(LanguageChoice::setOverride(QStringLiteral("ko")));
+        QCOMPARE(LanguageHelper::loadLanguageId(), QStringLiteral("ko"));
+        QCOMPARE(LanguageChoice::stored(), QStringLiteral("ja"));
+        QVERIFY(LanguageChoice::setOverride(QString()));
+        QSettings settings;
+        settings.setValue(settings.allKeys().constFirst(), QStringLiteral("klingon"));
+        QCOMPARE(LanguageHelper::loadLanguageId(), QStringLiteral("en"));
+    }
+
+private:
+    QTemporaryDir m_folder;
+    Tests::WarningGuard m_guard;
+};
+
+QTEST_MAIN(TestAppearance)
+#include "tst_appearance.moc"

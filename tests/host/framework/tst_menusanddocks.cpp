@@ -1,0 +1,370 @@
+// SPDX-FileCopyrightText: 2026 Tessera contributors
+// SPDX-License-Identifier: MIT
+
+#include "host/framework/actioncommand.h"
+#include "host/framework/actioncontainer.h"
+#include "host/framework/hostids.h"
+#include "host/framework/menuservice.h"
+#include "host/framework/windowservice.h"
+#include "support/warningguard.h"
+
+#include <QAbstractButton>
+#include <QDockWidget>
+#include <QEvent>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+#include <QTest>
+
+#include <algorithm>
+#include <memory>
+
+using Core::CId;
+
+// Menu service and window service at the same main window.
+class TestMenusAndDocks : public QObject
+{
+    Q_OBJECT
+
+private:
+    Host::ActionCommand *add(QAction *action, const QString &id)
+    {
+        return dynamic_cast<Host::ActionCommand *>(m_menus->registerAction(
+            action, CId(qPrintable(id)),
+            Core::AppCoreComponents::CContext(CId(Host::Ids::globalContext))));
+    }
+
+    // The visible entries of the Window menu with their check marks, separators as "-".
+    QString windowMenu() const
+    {
+        QStringList texts;
+        const QList<QAction *> actions = m_menu->actions();
+        for (const QAction *action : actions) {
+            if (action->isVisible()) {
+                texts.append(action->isSeparator() ? QStringLiteral("-") : action->text());
+                if (action->isChecked()) {
+                    texts.append(QStringLiteral("on"));
+                }
+            }
+        }
+        return texts.join(QLatin1Char(' '));
+    }
+
+    QDockWidget *dock(const CId &id) const
+    {
+        return m_window->findChild<QDockWidget *>(id.toString());
+    }
+
+    void addDock(const CId &id, bool visible)
+    {
+        m_docks->addDockWidget(id, id == m_all ? m_allPane.get() : m_userPane.get(), 3, visible,
+                               false);
+    }
+
+    void showWindow()
+    {
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    // What the window service says of a pane when that is shown or hidden.
+    bool eventFilter(QObject *pane, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show || event->type() == QEvent::Hide) {
+            const CId id(qPrintable(pane->objectName()));
+            m_notes.append(pane->objectName()
+                           + QLatin1String(event->type() == QEvent::Show ? " shown" : " hidden")
+                           + QLatin1String(m_docks->isDockWidgetClosed(id) ? " closed" : " open"));
+        }
+        return false;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_guard.begin();
+        m_window = std::make_unique<QMainWindow>();
+        m_window->resize(800, 600);
+        m_menu = m_window->menuBar()->addMenu(QStringLiteral("Window"));
+        m_menus.reset(new Host::MenuService(m_window.get()));
+        m_container = m_menus->createContainer(CId(Host::Ids::windowMenu), m_menu);
+        m_docks = std::make_unique<Host::WindowService>(m_window.get(), m_menus);
+        m_notes.clear();
+        for (auto *pane : {&m_allPane, &m_userPane}) {
+            *pane = std::make_unique<QWidget>();
+            (*pane)->setObjectName((pane == &m_allPane ? m_all : m_user).toString());
+            (*pane)->setWindowTitle((*pane)->objectName());
+            (*pane)->installEventFilter(this);
+        }
+    }
+
+    void cleanup()
+    {
+        m_allPane.reset();
+        m_userPane.reset();
+        m_docks.reset();
+        m_menus.reset();
+        m_window.reset();
+        m_guard.verify();
+    }
+
+    void entryTakesOverTheFirstActionAndFollowsItsState()
+    {
+        QAction action(QStringLiteral("old"));
+        action.setCheckable(true);
+        action.setChecked(true);
+        action.setEnabled(false);
+        Host::ActionCommand *command = add(&action, QStringLiteral("test"));
+        QAction *entry = command->proxy();
+        QVERIFY(entry->isCheckable() && entry->isChecked() && !entry->isEnabled());
+        action.setEnabled(true);
+        action.setChecked(false);
+        QVERIFY(entry->isEnabled() && !entry->isChecked() && entry->isVisible());
+        entry->trigger();
+        QVERIFY(entry->isChecked() && action.isChecked());
+        connect(&action, &QAction::triggered, &action, [&action] { action.setChecked(true); });
+        entry->trigger(); // refused
+        QVERIFY(entry->isChecked() && action.isChecked());
+        action.setText(QStringLiteral("new"));
+        command->setAttribute(1);
+        QCOMPARE(entry->text(), QStringLiteral("old"));
+        command->setAttribute(2);
+        QCOMPARE(entry->text(), QStringLiteral("new"));
+        action.setVisible(false);
+        QVERIFY(!entry->isVisible());
+    }
+
+    void oneShortcutReachesTheFirstEnabledOfSixActions()
+    {
+        QVector<QAction *> actions;
+        QVector<int> triggered;
+        for (int i = 0; i < 6; ++i) {
+            actions.append(new QAction(m_window.get()));
+            actions.at(i)->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+C")));
+            actions.at(i)->setShortcutContext(Qt::ApplicationShortcut);
+            connect(actions.at(i), &QAction::triggered, this, [&, i] { triggered.append(i); });
+            add(actions.at(i), QStringLiteral("test"));
+        }
+        showWindow();
+        for (const int disabled : {0, 1, 5, 6}) { // so many of them
+            std::for_each(actions.begin(), actions.begin() + disabled,
+                          [](QAction *action) { action->setEnabled(false); });
+            QTest::keyClick(m_window.get(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+        }
+        QCOMPARE(triggered, QVector<int>({0, 1, 5}));
+    }
+
+    void entryIsHiddenWithoutActions()
+    {
+        QAction action;
+        const QAction *entry = add(&action, QStringLiteral("test"))->proxy();
+        m_menus->unregisterAction(nullptr, CId("test"));
+        m_menus->unregisterAction(nullptr, CId("test.unknown"));
+        QVERIFY(entry->isVisible());
+        m_menus->unregisterAction(&action, CId("test"));
+        QVERIFY(!entry->isVisible());
+        {
+            QAction passing;
+            QCOMPARE(add(&passing, QStringLiteral("test"))->proxy(), entry);
+            QVERIFY(entry->isVisible());
+        }
+        QVERIFY(!entry->isVisible());
+    }
+
+    void groupsStandInTheirOrderWithSeparators_data()
+    {
+        QTest::addColumn<QString>("menu"); // the tag: "group:command ..."
+        QTest::newRow("g3:c g2:b g1:a") << QStringLiteral("Quit a - b - c");
+        QTest::newRow("g2:b g1:a g2:c") << QStringLiteral("Quit a - b c");
+        QTest::newRow("unknown:x g3:c") << QStringLiteral("Quit c - x");
+        QTest::newRow("g1:a g1:b g1:a g2:a") << QStringLiteral("Quit a b");
+    }
+
+    void groupsStandInTheirOrderWithSeparators()
+    {
+        m_menu->addAction(QStringLiteral("Quit"));
+        for (const char *group : {"g1", "g2", "g3"}) {
+            m_menus->addGroup(CId(Host::Ids::windowMenu), CId(group));
+        }
+        const QString tag = QString::fromLatin1(QTest::currentDataTag());
+        for (const QString &entry : tag.split(QLatin1Char(' '))) {
+            const QString text = entry.section(QLatin1Char(':'), 1);
+            m_container->addAction(add(new QAction(text, m_menu), text),
+                                   CId(qPrintable(entry.section(QLatin1Char(':'), 0, 0))));
+        }
+        QTEST(windowMenu(), "menu");
+    }
+
+    void nullAndAbsentThingsDoNoHarm()
+    {
+        m_guard.expectLogEntry(Core::Logging::ELogLevel::Fault,
+                               QStringLiteral("vantrel.viewer.menuService"),
+                               QStringLiteral("No action given to register as \"test\"."));
+        QCOMPARE(add(nullptr, QStringLiteral("test")), nullptr);
+        QCOMPARE(m_menus->actionContainer(CId("test.none")), nullptr);
+        m_menus->addGroup(CId("test.none"), CId("g"));
+        QAction action;
+        m_window.reset();
+        QCOMPARE(m_container->menu(), nullptr);
+        m_container->addAction(add(&action, QStringLiteral("test")), CId("g"));
+        m_container->addAction(nullptr, CId("g"));
+    }
+
+    void deletesActionsWithoutParentWhenItEnds()
+    {
+        const QPointer<QAction> orphan(new QAction);
+        const QPointer<QAction> owned(new QAction(m_window.get()));
+        QAction unregistered;
+        for (const char *id : {"test.a", "test.b"}) {
+            add(orphan, QLatin1String(id));
+            add(owned, QLatin1String(id));
+        }
+        add(&unregistered, QStringLiteral("test.a"));
+        m_menus->unregisterAction(&unregistered, CId("test.a"));
+        m_docks.reset();
+        m_menus.reset();
+        QVERIFY(orphan.isNull() && !owned.isNull());
+    }
+
+    void docksAsToldOrAsWishedBefore_data()
+    {
+        QTest::addColumn<QVariant>("wished");
+        QTest::addColumn<bool>("added");
+        QTest::addColumn<bool>("open");
+        QTest::addColumn<QString>("menu"); // only panes added visible have an entry
+        QTest::newRow("open") << QVariant() << true << true << QStringLiteral("R&&D on");
+        QTest::newRow("closed") << QVariant() << false << false << QString();
+        QTest::newRow("user pane that was open") << QVariant(true) << false << true << QString();
+        QTest::newRow("unwanted") << QVariant(false) << true << false << QStringLiteral("R&&D");
+    }
+
+    void docksAsToldOrAsWishedBefore()
+    {
+        QFETCH(QVariant, wished);
+        QFETCH(bool, added);
+        QFETCH(bool, open);
+        if (wished.isValid()) {
+            m_docks->setDockWidgetVisible(m_user, wished.toBool());
+        }
+        m_docks->setDockWidgetTitle(m_user, QStringLiteral("R&&D"));
+        QVERIFY(m_docks->isDockWidgetClosed(m_user)); // unknown as yet
+        addDock(m_user, added);
+        showWindow();
+        QCOMPARE(m_docks->isDockWidgetClosed(m_user), !open);
+        QCOMPARE(m_notes.join(QLatin1Char(' ')), QLatin1String(open ? "User shown open" : ""));
+        QCOMPARE(dock(m_user)->windowTitle(), QStringLiteral("R&&D"));
+        QTEST(windowMenu(), "menu");
+    }
+
+    void stateChangesBeforeThePaneHearsOfIt_data()
+    {
+        QTest::addColumn<int>("way");
+        QTest::newRow("service") << 0;
+        QTest::newRow("button of the dock") << 1;
+        QTest::newRow("list of docks of the window") << 2;
+        QTest::newRow("entry of the Window menu") << 3;
+    }
+
+    void stateChangesBeforeThePaneHearsOfIt()
+    {
+        QFETCH(int, way);
+        addDock(m_all, true);
+        showWindow();
+        for (const bool open : {false, true}) {
+            if (way == 1 && !open) {
+                QTest::mouseClick(dock(m_all)->findChild<QAbstractButton *>(
+                                      QStringLiteral("qt_dockwidget_closebutton")),
+                                  Qt::LeftButton);
+            } else if (way < 2) {
+                m_docks->setDockWidgetVisible(m_all, open);
+            } else {
+                (way == 2 ? dock(m_all)->toggleViewAction() : m_menu->actions().at(0))->trigger();
+            }
+            QCOMPARE(m_notes.takeLast(),
+                     QLatin1String(open ? "All shown open" : "All hidden closed"));
+            QCOMPARE(windowMenu(), QLatin1String(open ? "All on" : "All"));
+        }
+    }
+
+    // Behind another dock, floating, in a restored layout and when the window closes.
+    void openIsAStateOfItsOwn()
+    {
+        addDock(m_all, true);
+        addDock(m_user, true);
+        showWindow();
+        QCOMPARE(m_window->dockWidgetArea(dock(m_all)), Qt::RightDockWidgetArea);
+        QCOMPARE(m_window->tabifiedDockWidgets(dock(m_all)), {dock(m_user)});
+        QVERIFY(!m_allPane->visibleRegion().isEmpty()); // the first is on top
+        QCOMPARE(windowMenu(), QStringLiteral("All on User on"));
+        m_docks->setDockWidgetVisible(m_user, true);
+        QTRY_VERIFY(!m_userPane->visibleRegion().isEmpty()); // the opened one comes to the front
+        QCOMPARE(windowMenu(), QStringLiteral("All on User on"));
+        for (const bool floating : {true, false}) {
+            dock(m_user)->setFloating(floating);
+            QCOMPARE(windowMenu(), QStringLiteral("All on User on"));
+        }
+        m_docks->setDockWidgetVisible(m_user, false);
+        const QByteArray state = m_window->saveState();
+        m_docks->setDockWidgetVisible(m_user, true);
+        QVERIFY(m_window->restoreState(state));
+        QCOMPARE(m_notes.constLast(), QStringLiteral("User hidden closed"));
+        QCOMPARE(windowMenu(), QStringLiteral("All on User"));
+        m_docks->setDockWidgetVisible(m_user, true);
+        m_window->close();
+        QVERIFY(m_notes.contains(QStringLiteral("User hidden open")));
+        QVERIFY(!m_docks->isDockWidgetClosed(m_all) && !m_docks->isDockWidgetClosed(m_user));
+    }
+
+    void removingLeavesThePaneAndItsStateUntilItIsOut()
+    {
+        addDock(m_all, true);
+        addDock(m_user, true);
+        showWindow();
+        for (const bool visible : {true, false, true}) {
+            m_docks->setDockWidgetVisible(m_user, visible);
+            m_notes.clear();
+            m_docks->removeDockWidget(m_user);
+            m_notes.removeDuplicates();
+            m_notes.removeOne(QStringLiteral("All shown open")); // now on top
+            QCOMPARE(m_notes, {QLatin1String(visible ? "User hidden open" : "User hidden closed")});
+            QCOMPARE(m_userPane->parentWidget(), nullptr);
+            QVERIFY(m_docks->isDockWidgetClosed(m_user));
+            QCOMPARE(windowMenu(), QStringLiteral("All on"));
+            addDock(m_user, true); // again
+            QCOMPARE(m_window->tabifiedDockWidgets(dock(m_all)), {dock(m_user)});
+        }
+    }
+
+    void refusesWhatCannotBeDocked()
+    {
+        const QString refusal = QStringLiteral("Cannot add the dock \"All\": ");
+        for (const char *reason :
+             {"there is no widget or no window", "a dock with this id is there already"}) {
+            m_guard.expectLogEntry(Core::Logging::ELogLevel::Fault,
+                                   QStringLiteral("vantrel.viewer.windowService"),
+                                   refusal + QLatin1String(reason));
+        }
+        m_docks->addDockWidget(m_all, nullptr, 3, true, false);
+        addDock(m_all, true);
+        addDock(m_all, true);
+        m_allPane.reset(); // a pane may go before its dock
+        m_docks->removeDockWidget(m_all);
+    }
+
+private:
+    const CId m_all {"All"};
+    const CId m_user {"User"};
+    QStringList m_notes;
+    Tests::WarningGuard m_guard;
+    std::unique_ptr<QMainWindow> m_window;
+    QMenu *m_menu = nullptr; // by parent
+    Host::ActionContainer *m_container = nullptr; // borrowed
+    QSharedPointer<Host::MenuService> m_menus;
+    std::unique_ptr<Host::WindowService> m_docks;
+    std::unique_ptr<QWidget> m_allPane;
+    std::unique_ptr<QWidget> m_userPane;
+};
+
+QTEST_MAIN(TestMenusAndDocks)
+#include "tst_menusanddocks.moc"
