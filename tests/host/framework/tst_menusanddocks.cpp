@@ -17,7 +17,6 @@
 #include <QPointer>
 #include <QTest>
 
-#include <algorithm>
 #include <memory>
 
 using Core::CId;
@@ -43,9 +42,7 @@ private:
         for (const QAction *action : actions) {
             if (action->isVisible()) {
                 texts.append(action->isSeparator() ? QStringLiteral("-") : action->text());
-                if (action->isChecked()) {
-                    texts.append(QStringLiteral("on"));
-                }
+                texts.last().append(QLatin1String(action->isChecked() ? " on" : ""));
             }
         }
         return texts.join(QLatin1Char(' '));
@@ -127,7 +124,6 @@ private Q_SLOTS:
         entry->trigger(); // refused
         QVERIFY(entry->isChecked() && action.isChecked());
         action.setText(QStringLiteral("new"));
-        command->setAttribute(1);
         QCOMPARE(entry->text(), QStringLiteral("old"));
         command->setAttribute(2);
         QCOMPARE(entry->text(), QStringLiteral("new"));
@@ -148,8 +144,9 @@ private Q_SLOTS:
         }
         showWindow();
         for (const int disabled : {0, 1, 5, 6}) { // so many of them
-            std::for_each(actions.begin(), actions.begin() + disabled,
-                          [](QAction *action) { action->setEnabled(false); });
+            for (int i = 0; i < disabled; ++i) {
+                actions.at(i)->setEnabled(false);
+            }
             QTest::keyClick(m_window.get(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
         }
         QCOMPARE(triggered, QVector<int>({0, 1, 5}));
@@ -196,19 +193,13 @@ private Q_SLOTS:
         QTEST(windowMenu(), "menu");
     }
 
-    void nullAndAbsentThingsDoNoHarm()
+    void containersMayBeAbsentOrWithoutMenu()
     {
-        m_guard.expectLogEntry(Core::Logging::ELogLevel::Fault,
-                               QStringLiteral("vantrel.viewer.menuService"),
-                               QStringLiteral("No action given to register as \"test\"."));
-        QCOMPARE(add(nullptr, QStringLiteral("test")), nullptr);
         QCOMPARE(m_menus->actionContainer(CId("test.none")), nullptr);
-        m_menus->addGroup(CId("test.none"), CId("g"));
         QAction action;
         m_window.reset();
         QCOMPARE(m_container->menu(), nullptr);
         m_container->addAction(add(&action, QStringLiteral("test")), CId("g"));
-        m_container->addAction(nullptr, CId("g"));
     }
 
     void deletesActionsWithoutParentWhenItEnds()
@@ -216,12 +207,11 @@ private Q_SLOTS:
         const QPointer<QAction> orphan(new QAction);
         const QPointer<QAction> owned(new QAction(m_window.get()));
         QAction unregistered;
-        for (const char *id : {"test.a", "test.b"}) {
-            add(orphan, QLatin1String(id));
-            add(owned, QLatin1String(id));
+        for (QAction *action : {orphan.data(), owned.data(), &unregistered}) {
+            add(action, QStringLiteral("test"));
         }
-        add(&unregistered, QStringLiteral("test.a"));
-        m_menus->unregisterAction(&unregistered, CId("test.a"));
+        add(orphan, QStringLiteral("test.again"));
+        m_menus->unregisterAction(&unregistered, CId("test"));
         m_docks.reset();
         m_menus.reset();
         QVERIFY(orphan.isNull() && !owned.isNull());
@@ -231,19 +221,18 @@ private Q_SLOTS:
     {
         QTest::addColumn<QVariant>("wished");
         QTest::addColumn<bool>("added");
-        QTest::addColumn<bool>("open");
         QTest::addColumn<QString>("menu"); // only panes added visible have an entry
-        QTest::newRow("open") << QVariant() << true << true << QStringLiteral("R&&D on");
-        QTest::newRow("closed") << QVariant() << false << false << QString();
-        QTest::newRow("user pane that was open") << QVariant(true) << false << true << QString();
-        QTest::newRow("unwanted") << QVariant(false) << true << false << QStringLiteral("R&&D");
+        QTest::newRow("open") << QVariant() << true << QStringLiteral("R&&D on");
+        QTest::newRow("closed") << QVariant() << false << QString();
+        QTest::newRow("user pane that was open") << QVariant(true) << false << QString();
+        QTest::newRow("unwanted") << QVariant(false) << true << QStringLiteral("R&&D");
     }
 
     void docksAsToldOrAsWishedBefore()
     {
         QFETCH(QVariant, wished);
         QFETCH(bool, added);
-        QFETCH(bool, open);
+        const bool open = wished.isValid() ? wished.toBool() : added;
         if (wished.isValid()) {
             m_docks->setDockWidgetVisible(m_user, wished.toBool());
         }
@@ -294,12 +283,10 @@ private Q_SLOTS:
         addDock(m_user, true);
         showWindow();
         QCOMPARE(m_window->dockWidgetArea(dock(m_all)), Qt::RightDockWidgetArea);
-        QCOMPARE(m_window->tabifiedDockWidgets(dock(m_all)), {dock(m_user)});
         QVERIFY(!m_allPane->visibleRegion().isEmpty()); // the first is on top
         QCOMPARE(windowMenu(), QStringLiteral("All on User on"));
         m_docks->setDockWidgetVisible(m_user, true);
         QTRY_VERIFY(!m_userPane->visibleRegion().isEmpty()); // the opened one comes to the front
-        QCOMPARE(windowMenu(), QStringLiteral("All on User on"));
         for (const bool floating : {true, false}) {
             dock(m_user)->setFloating(floating);
             QCOMPARE(windowMenu(), QStringLiteral("All on User on"));
@@ -336,19 +323,14 @@ private Q_SLOTS:
         }
     }
 
-    void refusesWhatCannotBeDocked()
+    void refusesASecondDockAndOutlivesItsPane()
     {
-        const QString refusal = QStringLiteral("Cannot add the dock \"All\": ");
-        for (const char *reason :
-             {"there is no widget or no window", "a dock with this id is there already"}) {
-            m_guard.expectLogEntry(Core::Logging::ELogLevel::Fault,
-                                   QStringLiteral("vantrel.viewer.windowService"),
-                                   refusal + QLatin1String(reason));
-        }
-        m_docks->addDockWidget(m_all, nullptr, 3, true, false);
+        m_guard.expectLogEntry(
+            Core::Logging::ELogLevel::Fault, QStringLiteral("vantrel.viewer.windowService"),
+            QStringLiteral("Cannot add the dock \"All\": a dock with this id is there already"));
         addDock(m_all, true);
         addDock(m_all, true);
-        m_allPane.reset(); // a pane may go before its dock
+        m_allPane.reset();
         m_docks->removeDockWidget(m_all);
     }
 

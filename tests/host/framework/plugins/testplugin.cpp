@@ -28,8 +28,6 @@ class TestPlugin final : public Core::Plugin::ALocalizedPlugin
     Q_PLUGIN_METADATA(IID TEST_PLUGIN_IID FILE "testplugin.json")
 
 public:
-    TestPlugin() = default;
-
     ~TestPlugin() override
     {
         log(QStringLiteral("destroyed"));

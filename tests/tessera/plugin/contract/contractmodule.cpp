@@ -17,7 +17,7 @@ extern "C" Q_DECL_EXPORT ParameterCollection::IParameterCollection *makeCollecti
     return collection;
 }
 
-/// Throws an exception of one of five kinds with the text "from afar".
+/// Throws an exception of one of four kinds with the text "from afar".
 extern "C" Q_DECL_EXPORT void throwException(int kind)
 {
     constexpr char text[] = "from afar";
@@ -28,9 +28,7 @@ extern "C" Q_DECL_EXPORT void throwException(int kind)
         throw GenICam::InvalidArgumentException(text, __FILE__, __LINE__);
     case 2:
         throw std::invalid_argument(text);
-    case 3:
-        throw Core::Exception::BaseException(text);
     default:
-        throw kind;
+        throw Core::Exception::BaseException(text);
     }
 }
