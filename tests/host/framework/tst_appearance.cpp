@@ -58,6 +58,7 @@ private Q_SLOTS:
         const auto font = text->property("font").value<QFont>();
         QCOMPARE(font.family(), QStringLiteral("Segoe UI"));
         QCOMPARE(font.pixelSize(), 16); // 12 pt at 96 dpi
+        QCOMPARE(CStyleHelper::computePixelFontSize(11), 15); // rounded up
         QCOMPARE(CStyleHelper::computePixelFontSize(10), 13); // rounded down
     }
 

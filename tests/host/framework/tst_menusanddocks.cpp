@@ -9,6 +9,7 @@
 #include "support/warningguard.h"
 
 #include <QAbstractButton>
+#include <QActionGroup>
 #include <QDockWidget>
 #include <QEvent>
 #include <QMainWindow>
@@ -82,7 +83,6 @@ private Q_SLOTS:
     {
         m_guard.begin();
         m_window = std::make_unique<QMainWindow>();
-        m_window->resize(800, 600);
         m_menu = m_window->menuBar()->addMenu(QStringLiteral("Window"));
         m_menus.reset(new Host::MenuService(m_window.get()));
         m_container = m_menus->createContainer(CId(Host::Ids::windowMenu), m_menu);
@@ -120,8 +120,8 @@ private Q_SLOTS:
         QVERIFY(entry->isEnabled() && !entry->isChecked() && entry->isVisible());
         entry->trigger();
         QVERIFY(entry->isChecked() && action.isChecked());
-        connect(&action, &QAction::triggered, &action, [&action] { action.setChecked(true); });
-        entry->trigger(); // refused
+        action.setActionGroup(new QActionGroup(&action));
+        entry->trigger(); // refused: one of a group stays checked
         QVERIFY(entry->isChecked() && action.isChecked());
         action.setText(QStringLiteral("new"));
         QCOMPARE(entry->text(), QStringLiteral("old"));
@@ -140,7 +140,8 @@ private Q_SLOTS:
             actions.at(i)->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+C")));
             actions.at(i)->setShortcutContext(Qt::ApplicationShortcut);
             connect(actions.at(i), &QAction::triggered, this, [&, i] { triggered.append(i); });
-            add(actions.at(i), QStringLiteral("test"));
+            QCOMPARE(add(actions.at(i), QStringLiteral("test"))->proxy()->shortcutContext(),
+                     Qt::ApplicationShortcut);
         }
         showWindow();
         for (const int disabled : {0, 1, 5, 6}) { // so many of them

@@ -94,7 +94,7 @@ private Q_SLOTS:
         QVERIFY(leftOver.isNull() && !owned.isNull());
         QVERIFY(m_registry->services().isEmpty());
         QCOMPARE(steps().join(QStringLiteral("; ")),
-                 QStringLiteral("Plain speaks ja; initialize; start; may close?; "
+                 QStringLiteral("Plain speaks ja; initialize; start; "
                                 "about to uninitialize; queued event; uninitialize, 2 services; "
                                 "destroyed"));
         QVERIFY(QLibrary(pathOf("plain")).isLoaded());

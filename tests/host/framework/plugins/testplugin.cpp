@@ -72,7 +72,6 @@ public:
 
     bool checkPluginClosability(bool forced) override
     {
-        log(QStringLiteral("may close?"));
         return forced || m_behaviour != QLatin1String("stubborn");
     }
 
