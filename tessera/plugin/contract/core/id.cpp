@@ -26,12 +26,12 @@ CId CId::withSuffix(const char *suffix) const
     return result;
 }
 
-bool CId::operator==(CId other) const
+bool CId::operator==(CId other) const // clazy:exclude=function-args-by-ref
 {
     return m_text == other.m_text;
 }
 
-bool CId::operator!=(CId other) const
+bool CId::operator!=(CId other) const // clazy:exclude=function-args-by-ref
 {
     return m_text != other.m_text;
 }
