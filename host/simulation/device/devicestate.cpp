@@ -188,7 +188,7 @@ void DeviceState::store(int id, const Value &value)
 
 void DeviceState::storeSelected(int id, qint64 selection, const Value &value)
 {
-    QHash<qint64, Value> &values = m_image.selections[id];
+    QHash<qint64, Value> &values = m_image.selections[id]; // clazy:exclude=detaching-member
     const auto present = values.constFind(selection);
     if (present != values.cend() && *present == value)
         return;

@@ -204,7 +204,8 @@ void SimulatedDevice::advance(int elapsedMs)
 void SimulatedDevice::advanceCommands(int elapsedMs)
 {
     QVector<int> finished;
-    for (auto it = m_commands.begin(); it != m_commands.end(); ++it) {
+    const auto end = m_commands.end(); // clazy:exclude=detaching-member
+    for (auto it = m_commands.begin(); it != end; ++it) { // clazy:exclude=detaching-member
         *it -= elapsedMs;
         if (*it <= 0)
             finished.append(it.key());

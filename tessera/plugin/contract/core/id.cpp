@@ -26,12 +26,12 @@ CId CId::withSuffix(const char *suffix) const
     return result;
 }
 
-bool CId::operator==(CId other) const // clazy:exclude=function-args-by-ref
+bool CId::operator==(CId other) const
 {
     return m_text == other.m_text;
 }
 
-bool CId::operator!=(CId other) const // clazy:exclude=function-args-by-ref
+bool CId::operator!=(CId other) const
 {
     return m_text != other.m_text;
 }
