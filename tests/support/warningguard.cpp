@@ -27,6 +27,12 @@ bool isFault(Core::Logging::ELogLevel level)
     return level != Core::Logging::ELogLevel::Information;
 }
 
+// The offscreen platform says so of raising, activating and the like, whoever asks for it.
+bool isPlatformNoise(const QString &text)
+{
+    return text.startsWith(QLatin1String("This plugin does not support "));
+}
+
 QString describe(Core::Logging::ELogLevel level, const QString &category, const QString &text)
 {
     return QStringLiteral("%1 in %2: %3").arg(Host::levelText(level), category, text);
@@ -104,6 +110,9 @@ void WarningGuard::handleMessage(QtMsgType type, const QMessageLogContext &conte
 {
     WarningGuard *guard = watchingGuard();
     if (guard == nullptr) {
+        return;
+    }
+    if (isPlatformNoise(text)) {
         return;
     }
     const bool warning = type == QtWarningMsg || type == QtCriticalMsg;

@@ -22,7 +22,8 @@ namespace Tests {
 ///     void cleanup() { m_guard.verify(); }
 ///
 /// Announcements hold for the running test function, stand for one occurrence each and may come in
-/// any order. Use `expectQtWarning` in place of `QTest::ignoreMessage`.
+/// any order. What the offscreen platform says it does not support is passed over. Use
+/// `expectQtWarning` in place of `QTest::ignoreMessage`.
 class WarningGuard
 {
 public:

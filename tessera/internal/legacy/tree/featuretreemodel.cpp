@@ -1,0 +1,563 @@
+// SPDX-FileCopyrightText: 2026 Tessera contributors
+// SPDX-License-Identifier: MIT
+
+#include "featuretreemodel.h"
+
+#include "featuretreeinodeitem.h"
+#include "featuretreemarking.h"
+
+#include "plugin/constants/logcategories.h"
+#include "plugin/constants/mimetypes.h"
+#include "plugin/contract/core/logging.h"
+#include "plugin/contract/parametercollection/parameter.h"
+#include "plugin/contract/parametercollection/parametercollection.h"
+#include "plugin/contract/parametercollection/parameternode.h"
+#include "plugin/services/exceptionbarrier.h"
+
+#include <QMimeData>
+#include <QPointer>
+
+using namespace ParameterCollection;
+using Plugin::Tessera::runGuarded;
+
+namespace {
+
+void logFault(int line, const QString &text)
+{
+    static const quint64 category =
+        Core::Logging::getCatId(Plugin::Tessera::LogCategories::TreeModel);
+    Core::Logging::createLogEntry(Core::Logging::ELogLevel::Fault, category,
+                                  QStringLiteral("featuretreemodel %1 %2").arg(line).arg(text));
+}
+
+QVector<FeatureTreeItem *> loadedChildren(FeatureTreeItem *item)
+{
+    QVector<FeatureTreeItem *> children;
+    for (int row = 0; FeatureTreeItem *child = item->child(row); ++row) {
+        children.append(child);
+    }
+    return children;
+}
+
+void collectNamed(FeatureTreeItem *item, QStringList &names, QList<FeatureTreeItem *> &found)
+{
+    if (names.removeOne(item->fullName())) {
+        found.append(item);
+    }
+    const int count = names.isEmpty() ? 0 : item->childCount();
+    for (int row = 0; row < count && !names.isEmpty(); ++row) {
+        collectNamed(item->child(row), names, found);
+    }
+}
+
+void invalidate(const IParameter &parameter)
+{
+    if (const QSharedPointer<IParameterNode> node = parameter.node()) {
+        node->invalidate();
+    }
+}
+
+} // namespace
+
+FeatureTreeModel::FeatureTreeModel(QObject *parent)
+    : QAbstractItemModel(parent)
+    , m_rootItem(std::make_unique<FeatureTreeItem>(QString(), this, QString(), nullptr, 0))
+    , m_pollTimer(this)
+{
+    m_pollTimer.setSingleShot(true);
+    connect(&m_pollTimer, &QTimer::timeout, this, &FeatureTreeModel::onTimerPoll);
+}
+
+FeatureTreeModel::~FeatureTreeModel() = default;
+
+QModelIndex FeatureTreeModel::index(int row, int column, const QModelIndex &parent) const
+{
+    if (parent.column() > 0 || column < 0 || column >= columnCount()) {
+        return {};
+    }
+    FeatureTreeItem *child = itemOrRoot(parent)->child(row);
+    return child ? createIndex(row, column, child) : QModelIndex();
+}
+
+QModelIndex FeatureTreeModel::parent(const QModelIndex &child) const
+{
+    FeatureTreeItem *item = itemFromIndex(child);
+    FeatureTreeItem *parentItem = item ? item->parent() : nullptr;
+    if (!parentItem || parentItem == m_rootItem.get()) {
+        return {};
+    }
+    return createIndex(parentItem->row(), 0, parentItem);
+}
+
+int FeatureTreeModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.column() > 0 ? 0 : itemOrRoot(parent)->childCount();
+}
+
+int FeatureTreeModel::columnCount(const QModelIndex &parent) const
+{
+    Q_UNUSED(parent)
+    return 2;
+}
+
+// Loads first: a load that only starts when a proxy counts the rows would come in the middle of the
+// proxy's own work.
+bool FeatureTreeModel::hasChildren(const QModelIndex &parent) const
+{
+    if (parent.column() > 0) {
+        return false;
+    }
+    FeatureTreeItem *item = itemFromIndex(parent);
+    if (!item) {
+        return true;
+    }
+    item->childCount();
+    return item->hasChildren();
+}
+
+QVariant FeatureTreeModel::data(const QModelIndex &index, int role) const
+{
+    FeatureTreeItem *item = itemFromIndex(index);
+    if (!item) {
+        return {};
+    }
+    QVariant answer;
+    const bool answered = runGuarded([&] { answer = item->data(index.column(), role); });
+    if (!answered && !m_getFailureLogged) {
+        logFault(__LINE__, QStringLiteral("Failed to get a feature value"));
+    }
+    m_getFailureLogged = !answered;
+    return answer;
+}
+
+bool FeatureTreeModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    FeatureTreeItem *item = itemFromIndex(index);
+    if (!item || role != Qt::EditRole || index.column() != 1 || !value.isValid() || !m_active) {
+        return false;
+    }
+    const QPointer<FeatureTreeModel> self(this); // a write may end in anything
+    return runGuarded(
+        [&] {
+            // The new value comes first: Qt converts the second operand to the type of the first.
+            if (!(value == item->data(1, Qt::EditRole))) {
+                item->setData(1, value, Qt::EditRole);
+            }
+        },
+        [&](const Plugin::Tessera::CaughtException &) {
+            if (self && m_active) {
+                logFault(__LINE__, QStringLiteral("Failed to set a feature value."));
+            }
+        });
+}
+
+QVariant FeatureTreeModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation == Qt::Horizontal && role == Qt::DisplayRole) {
+        if (section == 0) {
+            return tr("Category");
+        }
+        if (section == 1) {
+            return tr("Value");
+        }
+    }
+    return {};
+}
+
+Qt::ItemFlags FeatureTreeModel::flags(const QModelIndex &index) const
+{
+    const FeatureTreeItem *item = itemFromIndex(index);
+    return item ? item->flags(index.column()) : Qt::ItemIsEnabled;
+}
+
+QMimeData *FeatureTreeModel::mimeData(const QModelIndexList &indexes) const
+{
+    QMimeData *payload = QAbstractItemModel::mimeData(indexes);
+    const auto *item = qobject_cast<FeatureTreeINodeItem *>(itemFromIndex(indexes.value(0)));
+    if (payload && item && item->parameter()) {
+        const QByteArray path = item->parameter()->fullName().toUtf8();
+        payload->setData(QLatin1String(Plugin::Tessera::MimeTypes::ParameterPath),
+                         QByteArray(path.constData())); // up to the first NUL
+    }
+    return payload;
+}
+
+Qt::DropActions FeatureTreeModel::supportedDropActions() const
+{
+    return Qt::MoveAction;
+}
+
+void FeatureTreeModel::addParameterCollection(
+    QSharedPointer<IParameterCollection> pParameterCollection, const QString &rootName,
+    const QString &roleName, bool isUtf8)
+{
+    const CollectionEntry entry {roleName, rootName, isUtf8, pParameterCollection};
+    loadCollection(entry);
+    // Also where the load failed: a change of shape tries again.
+    m_collections.append(entry);
+}
+
+void FeatureTreeModel::loadCollection(const CollectionEntry &entry)
+{
+    m_isUtf8 = entry.isUtf8;
+    const QSharedPointer<IParameter> parameter = rootParameter(entry);
+    if (!parameter) {
+        return;
+    }
+    const QString key = entry.roleName + QLatin1String("*Root");
+    auto *item = new FeatureTreeINodeItem(entry.collection, parameter, entry.rootName, this, key,
+                                          nullptr, entry.isUtf8, 1);
+    adopt(item, true);
+    Q_EMIT layoutAboutToBeChanged();
+    m_rootItem->appendChild(item);
+    Q_EMIT layoutChanged();
+    item->childCount();
+}
+
+QSharedPointer<IParameter> FeatureTreeModel::rootParameter(const CollectionEntry &entry) const
+{
+    QSharedPointer<IParameter> parameter;
+    runGuarded([&] {
+        if (entry.collection) {
+            parameter = entry.collection->parameter(entry.roleName + QLatin1String("/Root"));
+        }
+    });
+    if (!parameter || parameter->isNull()) {
+        logFault(
+            __LINE__,
+            QStringLiteral("could not retrieve %1 /Root from camera node map").arg(entry.roleName));
+        return {};
+    }
+    return parameter;
+}
+
+void FeatureTreeModel::adopt(FeatureTreeINodeItem *item, bool isCollectionTop)
+{
+    item->setSearchText(m_searchText);
+    item->setIsCollectionTop(isCollectionTop);
+    connect(item, &FeatureTreeINodeItem::nodeUpdated, this, &FeatureTreeModel::onNodeUpdated);
+}
+
+void FeatureTreeModel::loadChildren(FeatureTreeINodeItem *parent,
+                                    QSharedPointer<IParameter> parameter)
+{
+    if (!parameter) {
+        return;
+    }
+    QStringList names;
+    runGuarded(
+        [&] {
+            m_loading.append(parameter->fullName());
+            names = parent->collection()->children(m_loading.constLast(), 0, true);
+        },
+        [&](const Plugin::Tessera::CaughtException &) {
+            logFault(
+                __LINE__,
+                QStringLiteral("could not retrieve the children of %1").arg(parent->fullName()));
+        });
+    QVector<FeatureTreeINodeItem *> items;
+    for (const QString &name : qAsConst(names)) {
+        runGuarded(
+            [&] {
+                if (FeatureTreeINodeItem *item = loadChild(parent, name)) {
+                    items.append(item);
+                }
+            },
+            [&](const Plugin::Tessera::CaughtException &) {
+                logFault(__LINE__, QStringLiteral("could not retrieve %1").arg(name));
+            });
+    }
+    m_loading.removeLast();
+    insertChildren(parent, items);
+}
+
+// Null for what gets no row of its own.
+FeatureTreeINodeItem *FeatureTreeModel::loadChild(FeatureTreeINodeItem *parent, const QString &name)
+{
+    const QSharedPointer<IParameter> parameter = parent->collection()->parameter(name);
+    if (!parameter || parameter->isNull()) {
+        return nullptr;
+    }
+    const bool isCategory = parameter->type() == Category;
+    if (isCategory
+        && (parameter->visibility() >= GenApi::Invisible || isAbove(parent, parameter))) {
+        return nullptr;
+    }
+    const bool isFlat = parent->depth() >= 2 && !m_showTreeView;
+    if (isFlat && (isCategory || parent->depth() > 2)) {
+        if (parent->depth() == 2) {
+            loadChildren(parent, parameter);
+        }
+        return nullptr;
+    }
+    auto *item = new FeatureTreeINodeItem(parent->collection(), parameter, this, name, nullptr,
+                                          m_isUtf8, parent->depth() + 1);
+    adopt(item, false);
+    return item;
+}
+
+// A category that holds itself, at whatever distance, would be loaded for ever.
+bool FeatureTreeModel::isAbove(FeatureTreeINodeItem *parent,
+                               const QSharedPointer<IParameter> &category) const
+{
+    if (m_loading.contains(category->fullName())) {
+        return true;
+    }
+    for (FeatureTreeItem *item = parent; item; item = item->parent()) {
+        const auto *nodeItem = qobject_cast<FeatureTreeINodeItem *>(item);
+        if (nodeItem && nodeItem->parameter() == category) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void FeatureTreeModel::insertChildren(FeatureTreeINodeItem *parent,
+                                      const QVector<FeatureTreeINodeItem *> &items)
+{
+    if (items.isEmpty()) {
+        return;
+    }
+    const int first = parent->childCount();
+    beginInsertRows(createItemIndex(parent, 0), first, first + items.size() - 1);
+    for (FeatureTreeINodeItem *item : items) {
+        parent->appendChild(item);
+    }
+    endInsertRows();
+}
+
+void FeatureTreeModel::setShowTreeView(bool showTreeView)
+{
+    if (showTreeView == m_showTreeView) {
+        return;
+    }
+    m_showTreeView = showTreeView;
+    // A tree that could not be read has an entry but no row.
+    if (const int rows = m_rootItem->childCount()) {
+        beginRemoveRows(QModelIndex(), 0, rows - 1);
+        m_rootItem->clear();
+        endRemoveRows();
+    }
+    const QVector<CollectionEntry> entries = m_collections;
+    for (const CollectionEntry &entry : entries) {
+        loadCollection(entry);
+    }
+}
+
+void FeatureTreeModel::clear()
+{
+    m_rootItem->clear();
+}
+
+void FeatureTreeModel::onNodeUpdated(int row, FeatureTreeINodeItem *pItem)
+{
+    if (m_active) {
+        const QModelIndex index = createIndex(row, 0, pItem);
+        Q_EMIT dataChanged(index, index);
+    }
+}
+
+void FeatureTreeModel::setPolling(bool polling)
+{
+    const bool starts = polling && !m_polling;
+    m_polling = polling;
+    if (starts) {
+        m_pollTimer.start(m_pollIntervalMs);
+    }
+}
+
+bool FeatureTreeModel::isPolling() const
+{
+    return m_polling;
+}
+
+void FeatureTreeModel::onTimerPoll()
+{
+    if (!m_active) {
+        return;
+    }
+    if (m_pollByInvalidation) {
+        pollNodes({});
+    } else if (!m_collections.isEmpty()) {
+        const auto collection = m_collections.constFirst().collection;
+        runGuarded([&] { collection->poll(m_pollIntervalMs); });
+    }
+    if (m_polling) {
+        m_pollTimer.start(m_pollIntervalMs);
+    }
+}
+
+void FeatureTreeModel::pollNodes(const QStringList &names)
+{
+    if (m_collections.isEmpty() || !m_collections.constFirst().collection) {
+        return;
+    }
+    const QSharedPointer<IParameterCollection> collection = m_collections.constFirst().collection;
+    const auto onException = [](const Plugin::Tessera::CaughtException &e) {
+        logFault(__LINE__, QStringLiteral("Failed to update nodes. Message: %1").arg(e.message));
+    };
+    if (names.isEmpty()) {
+        runGuarded([&] { collection->endBatchUpdate(); }, onException);
+    }
+    for (const QString &name : names) {
+        runGuarded(
+            [&] {
+                if (const QSharedPointer<IParameter> parameter = collection->parameter(name)) {
+                    invalidate(*parameter);
+                }
+            },
+            onException);
+    }
+}
+
+void FeatureTreeModel::refreshAll()
+{
+    announce(m_rootItem.get(), 3);
+}
+
+void FeatureTreeModel::announce(FeatureTreeItem *item, int levels)
+{
+    const QVector<FeatureTreeItem *> children = loadedChildren(item);
+    for (FeatureTreeItem *child : children) {
+        const QModelIndex index = createItemIndex(child, 0);
+        Q_EMIT dataChanged(index, index);
+        if (levels > 1) {
+            announce(child, levels - 1);
+        }
+    }
+}
+
+QModelIndex FeatureTreeModel::createItemIndex(FeatureTreeItem *item, int column)
+{
+    if (!item || item == m_rootItem.get()) {
+        return {};
+    }
+    return createIndex(item->row(), column, item);
+}
+
+QModelIndex FeatureTreeModel::indexOfItem(FeatureTreeItem *item, FeatureTreeItem *searchRoot,
+                                          int column)
+{
+    return orRoot(searchRoot)->containsItem(item) ? createItemIndex(item, column) : QModelIndex();
+}
+
+QModelIndex FeatureTreeModel::indexOfName(const QString &fullName, FeatureTreeItem *searchRoot,
+                                          int column)
+{
+    return createItemIndex(orRoot(searchRoot)->findByFullName(fullName), column);
+}
+
+QModelIndex FeatureTreeModel::indexOfRoleValue(int role, const QVariant &value,
+                                               FeatureTreeItem *searchRoot, int column)
+{
+    return createItemIndex(orRoot(searchRoot)->findByRole(role, value), column);
+}
+
+QList<FeatureTreeItem *> FeatureTreeModel::itemsForNames(QStringList &names)
+{
+    QList<FeatureTreeItem *> found;
+    const QVector<FeatureTreeItem *> tops = loadedChildren(m_rootItem.get());
+    for (FeatureTreeItem *top : tops) {
+        collectNamed(top, names, found);
+    }
+    return found;
+}
+
+void FeatureTreeModel::markFavorites(const QStringList &names)
+{
+    const FavoriteNames favorites(names);
+    const QVector<FeatureTreeItem *> tops = loadedChildren(m_rootItem.get());
+    for (FeatureTreeItem *top : tops) {
+        ::markFavorites(*top, favorites);
+    }
+}
+
+bool FeatureTreeModel::markFavoritesBelow(FeatureTreeItem *item, const QStringList &names)
+{
+    return ::markFavorites(*item, FavoriteNames(names));
+}
+
+void FeatureTreeModel::markSearchMatches(const QString &text)
+{
+    const QString trimmed = text.trimmed();
+    const QVector<FeatureTreeItem *> tops = loadedChildren(m_rootItem.get());
+    for (FeatureTreeItem *top : tops) {
+        ::markSearchMatches(*top, trimmed);
+    }
+}
+
+bool FeatureTreeModel::markSearchBelow(FeatureTreeItem *item, const QString &text)
+{
+    return ::markSearchMatches(*item, text.trimmed());
+}
+
+FeatureTreeItem *FeatureTreeModel::itemFromIndex(const QModelIndex &index) const
+{
+    return static_cast<FeatureTreeItem *>(index.internalPointer());
+}
+
+FeatureTreeItem *FeatureTreeModel::itemOrRoot(const QModelIndex &index) const
+{
+    return orRoot(itemFromIndex(index));
+}
+
+FeatureTreeItem *FeatureTreeModel::orRoot(FeatureTreeItem *item) const
+{
+    return item ? item : m_rootItem.get();
+}
+
+void FeatureTreeModel::setFeatureNameFilter(const QStringList &names)
+{
+    Q_UNUSED(names) // a matter of the proxy
+}
+
+void FeatureTreeModel::setShowUnavailable(bool show)
+{
+    Q_UNUSED(show) // a matter of the proxy
+}
+
+void FeatureTreeModel::setActive(bool active)
+{
+    m_active = active;
+}
+
+void FeatureTreeModel::setVisibility(int visibility)
+{
+    m_visibility = visibility;
+}
+
+int FeatureTreeModel::visibility() const
+{
+    return m_visibility;
+}
+
+void FeatureTreeModel::setPollByInvalidation(bool invalidate)
+{
+    m_pollByInvalidation = invalidate;
+}
+
+void FeatureTreeModel::setAcceptUpdates(bool accept)
+{
+    m_acceptUpdates = accept;
+}
+
+bool FeatureTreeModel::acceptUpdates() const
+{
+    return m_acceptUpdates;
+}
+
+void FeatureTreeModel::setSearchText(const QString *searchText)
+{
+    m_searchText = searchText;
+}
+
+bool FeatureTreeModel::isUtf8() const
+{
+    return m_isUtf8;
+}
+
+QString FeatureTreeModel::emptyText(QSharedPointer<IParameter> parameter) const
+{
+    Q_UNUSED(parameter)
+    return {};
+}
