@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 Tessera contributors
+// SPDX-License-Identifier: MIT
+
+#include "devicethread.h"
+
+#include <chrono>
+
+namespace Simulation {
+
+namespace {
+
+constexpr std::chrono::milliseconds pace {50};
+
+} // namespace
+
+DeviceThread::DeviceThread(std::function<bool(int)> tick)
+    : m_tick(std::move(tick))
+{
+    setObjectName(QStringLiteral("SimulatedDevice"));
+}
+
+DeviceThread::~DeviceThread()
+{
+    finish();
+}
+
+void DeviceThread::wake()
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isAwake = true;
+    }
+    m_condition.notify_one();
+}
+
+void DeviceThread::finish()
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isFinished = true;
+    }
+    m_condition.notify_one();
+    wait();
+}
+
+void DeviceThread::run()
+{
+    using Clock = std::chrono::steady_clock;
+    Clock::time_point last = Clock::now();
+    std::unique_lock<std::mutex> lock(m_mutex);
+    while (!m_isFinished) {
+        m_isAwake = false;
+        lock.unlock();
+        const Clock::time_point now = Clock::now();
+        const auto elapsed = std::chrono::duration_cast<std::chrono::milliseconds>(now - last);
+        last += elapsed;
+        const bool isBusy = m_tick(static_cast<int>(elapsed.count()));
+        lock.lock();
+        const auto isCalled = [this] { return m_isAwake || m_isFinished; };
+        if (isBusy)
+            m_condition.wait_for(lock, pace, isCalled);
+        else
+            m_condition.wait(lock, isCalled);
+    }
+}
+
+} // namespace Simulation

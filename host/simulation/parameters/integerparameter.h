@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 Tessera contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "plugin/contract/parametercollection/integerparameter.h"
+
+#include "host/simulation/parameters/typedparameter.h"
+
+namespace Simulation {
+
+/// An integer of the device, or the companion of a float.
+class IntegerParameter final : public TypedParameter<ParameterCollection::IIntegerParameter>
+{
+public:
+    using TypedParameter::TypedParameter;
+
+    void setValue(qint64 value, bool verify) override;
+    qint64 value() const override;
+};
+
+} // namespace Simulation

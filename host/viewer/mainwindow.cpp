@@ -1,0 +1,185 @@
+// SPDX-FileCopyrightText: 2026 Tessera contributors
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow.h"
+
+#include "currentfeature.h"
+#include "devicesview.h"
+#include "documentationview.h"
+#include "featurecontextmenu.h"
+#include "languagemenu.h"
+#include "logview.h"
+#include "sourcesession.h"
+#include "visibilitylevel.h"
+
+#include <host/framework/menuservice.h>
+#include <host/framework/pluginloader.h>
+#include <host/framework/windowservice.h>
+#include <plugin/contract/core/id.h>
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSettings>
+#include <QStatusBar>
+
+namespace Viewer {
+
+namespace {
+
+QDockWidget *addDock(QMainWindow *window, const QString &name, const QString &title,
+                     QWidget *content, Qt::DockWidgetArea area)
+{
+    auto *dock = new QDockWidget(title, window);
+    dock->setObjectName(name);
+    dock->setWidget(content);
+    window->addDockWidget(area, dock);
+    return dock;
+}
+
+QString layoutKey(const char *name)
+{
+    return QStringLiteral("Viewer/") + QLatin1String(name);
+}
+
+} // namespace
+
+MainWindow::MainWindow(SourceSession *session, CurrentFeature *feature)
+    : m_session(session)
+    , m_feature(feature)
+    , m_menuService(QSharedPointer<Host::MenuService>::create(this))
+    , m_windowService(QSharedPointer<Host::WindowService>::create(this))
+    , m_visibilityLevel(new VisibilityLevel(this))
+{
+    setObjectName(QStringLiteral("viewerWindow"));
+    setWindowTitle(QStringLiteral("Tessera Viewer"));
+    setDockNestingEnabled(true);
+    setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
+    const double scale = logicalDpiX() / 96.0;
+    resize(qRound(1200 * scale), qRound(800 * scale));
+    makeDocks();
+    makeMenus();
+    statusBar();
+    connect(session, &SourceSession::opened, m_visibilityLevel, &VisibilityLevel::tellBrowsers);
+}
+
+MainWindow::~MainWindow() = default;
+
+QSharedPointer<Host::MenuService> MainWindow::menuService() const
+{
+    return m_menuService;
+}
+
+QSharedPointer<Host::WindowService> MainWindow::windowService() const
+{
+    return m_windowService;
+}
+
+VisibilityLevel *MainWindow::visibilityLevel() const
+{
+    return m_visibilityLevel;
+}
+
+void MainWindow::setLoader(Host::PluginLoader *loader)
+{
+    m_loader = loader;
+}
+
+void MainWindow::restoreLayout()
+{
+    QSettings settings;
+    restoreGeometry(settings.value(layoutKey("Geometry")).toByteArray());
+    restoreState(settings.value(layoutKey("State")).toByteArray());
+}
+
+void MainWindow::saveLayout() const
+{
+    QSettings settings;
+    settings.setValue(layoutKey("Geometry"), saveGeometry());
+    settings.setValue(layoutKey("State"), saveState());
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (m_loader && !m_loader->mayClose(false)) {
+        event->ignore();
+        return;
+    }
+    saveLayout();
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::makeDocks()
+{
+    m_devices = new DevicesView(m_session, this);
+    QDockWidget *devices = addDock(this, QStringLiteral("Viewer.Dock.Devices"), tr("Devices"),
+                                   m_devices, Qt::LeftDockWidgetArea);
+    QDockWidget *documentation =
+        addDock(this, QStringLiteral("Viewer.Dock.Documentation"), tr("Documentation"),
+                new DocumentationView(m_feature, this), Qt::BottomDockWidgetArea);
+    QDockWidget *log = addDock(this, QStringLiteral("Viewer.Dock.Log"), tr("Log"),
+                               new LogView(this), Qt::BottomDockWidgetArea);
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    resizeDocks({devices}, {width() / 4}, Qt::Horizontal);
+    resizeDocks({documentation, log}, {width() / 3, width() / 3}, Qt::Horizontal);
+    resizeDocks({documentation}, {height() / 4}, Qt::Vertical);
+}
+
+QMenu *MainWindow::makeContainerMenu(const Core::CId &id, const QString &title)
+{
+    QMenu *menu = menuBar()->addMenu(title);
+    m_menuService->createContainer(id, menu);
+    return menu;
+}
+
+void MainWindow::makeMenus()
+{
+    const Core::CId cameraId("VantrelViewer.Menu.Camera");
+    QMenu *camera = makeContainerMenu(cameraId, tr("&Camera"));
+    camera->addActions(m_devices->sourceActions());
+    camera->addSeparator();
+    m_menuService->addGroup(cameraId, Core::CId("VantrelViewer.Group.Camera.Features"));
+    camera->addSeparator();
+    camera->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+
+    QMenu *view = menuBar()->addMenu(tr("&View"));
+    view->addSection(tr("Visibility Level"));
+    view->addActions(m_visibilityLevel->actions());
+    view->addSeparator();
+    view->addAction(tr("&Refresh"), m_session, &SourceSession::requestRefresh);
+    view->addSeparator();
+    auto *language = new LanguageMenu(view);
+    view->addMenu(language);
+    connect(language, &LanguageMenu::hint, this,
+            [this](const QString &text) { statusBar()->showMessage(text); });
+
+    const Core::CId windowId("VantrelViewer.Menu.Window");
+    QMenu *window = makeContainerMenu(windowId, tr("&Window"));
+    const auto docks = findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QDockWidget *dock : docks) {
+        window->addAction(dock->toggleViewAction());
+    }
+    window->addSeparator();
+    m_menuService->addGroup(windowId, Core::CId("VantrelViewer.Group.Window.Windows"));
+
+    menuBar()->addMenu(tr("&Help"))->addAction(tr("&About"), this, &MainWindow::showAbout);
+
+    auto *context = new QMenu(this);
+    m_menuService->createContainer(Core::CId("VantrelViewer.FeatureTreeContextMenu"), context);
+    new FeatureContextMenu(context, m_feature, m_visibilityLevel, this);
+}
+
+void MainWindow::showAbout()
+{
+    auto *box = new QMessageBox(QMessageBox::NoIcon, tr("About Tessera"),
+                                tr("<h3>Tessera %1</h3><p>A feature browser for machine-vision "
+                                   "cameras.</p>")
+                                    .arg(QApplication::applicationVersion()),
+                                QMessageBox::Ok, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+} // namespace Viewer
