@@ -152,8 +152,8 @@ QModelIndex FeatureTreeProxyModel::indexOfItem(FeatureTreeItem *item, FeatureTre
                     : QModelIndex();
 }
 
-QModelIndex FeatureTreeProxyModel::indexOfName(const QString &fullName,
-                                               FeatureTreeItem *searchRoot, int column)
+QModelIndex FeatureTreeProxyModel::indexOfName(const QString &fullName, FeatureTreeItem *searchRoot,
+                                               int column)
 {
     return source() ? mapFromSource(source()->indexOfName(fullName, searchRoot, column))
                     : QModelIndex();
