@@ -283,7 +283,8 @@ private Q_SLOTS:
         showWindow();
         m_user->takeNotes();
         m_service->removeDockWidget(m_user->id());
-        const QStringList notes = m_user->takeNotes();
+        QStringList notes = m_user->takeNotes();
+        notes.removeDuplicates();
         const QStringList expected {QStringLiteral("hidden open")};
         QCOMPARE(notes, visible ? expected : QStringList());
         QCOMPARE(m_user->parentWidget(), nullptr);

@@ -133,6 +133,11 @@ QSharedPointer<const ParameterData> FeatureTreeINodeItem::parameterData() const
     return m_parameterData;
 }
 
+bool FeatureTreeINodeItem::isUtf8() const
+{
+    return m_isUtf8;
+}
+
 void FeatureTreeINodeItem::setSearchText(const QString *searchText)
 {
     m_searchText = searchText;

@@ -39,6 +39,8 @@ public:
     QSharedPointer<ParameterCollection::IParameter> parameter() const;
     /// The last snapshot.
     QSharedPointer<const ParameterCollection::ParameterData> parameterData() const;
+    /// Texts are written in UTF-8, else in Latin-1.
+    bool isUtf8() const;
     /// The text to highlight in tool tips; it must outlive the item. May be null.
     void setSearchText(const QString *searchText);
     /// True when an editor widget shows the value, false when the row draws it.

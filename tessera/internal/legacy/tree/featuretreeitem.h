@@ -23,8 +23,8 @@ public:
     /// `fullName` is the item's key: the path of its parameter, or for the top item of a collection
     /// the attached path followed by "*Root". `depth` is 0 for the invisible root. `model` is the
     /// model that shows the item, or null.
-    FeatureTreeItem(const QString &text, IFeatureTreeModelExtension *model,
-                    const QString &fullName, FeatureTreeItem *parentItem, int depth);
+    FeatureTreeItem(const QString &text, IFeatureTreeModelExtension *model, const QString &fullName,
+                    FeatureTreeItem *parentItem, int depth);
     ~FeatureTreeItem() override;
 
     /// Deletes all children.

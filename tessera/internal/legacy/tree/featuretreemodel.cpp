@@ -4,6 +4,7 @@
 #include "featuretreemodel.h"
 
 #include "featuretreeinodeitem.h"
+#include "featuretreeloader.h"
 #include "featuretreemarking.h"
 
 #include "plugin/constants/logcategories.h"
@@ -200,7 +201,7 @@ void FeatureTreeModel::addParameterCollection(
 void FeatureTreeModel::loadCollection(const CollectionEntry &entry)
 {
     m_isUtf8 = entry.isUtf8;
-    const QSharedPointer<IParameter> parameter = rootParameter(entry);
+    const QSharedPointer<IParameter> parameter = rootParameter(entry.collection, entry.roleName);
     if (!parameter) {
         return;
     }
@@ -212,23 +213,6 @@ void FeatureTreeModel::loadCollection(const CollectionEntry &entry)
     m_rootItem->appendChild(item);
     Q_EMIT layoutChanged();
     item->childCount();
-}
-
-QSharedPointer<IParameter> FeatureTreeModel::rootParameter(const CollectionEntry &entry) const
-{
-    QSharedPointer<IParameter> parameter;
-    runGuarded([&] {
-        if (entry.collection) {
-            parameter = entry.collection->parameter(entry.roleName + QLatin1String("/Root"));
-        }
-    });
-    if (!parameter || parameter->isNull()) {
-        logFault(
-            __LINE__,
-            QStringLiteral("could not retrieve %1 /Root from camera node map").arg(entry.roleName));
-        return {};
-    }
-    return parameter;
 }
 
 void FeatureTreeModel::adopt(FeatureTreeINodeItem *item, bool isCollectionTop)
@@ -244,83 +228,15 @@ void FeatureTreeModel::loadChildren(FeatureTreeINodeItem *parent,
     if (!parameter) {
         return;
     }
-    QStringList names;
-    runGuarded(
-        [&] {
-            m_loading.append(parameter->fullName());
-            names = parent->collection()->children(m_loading.constLast(), 0, true);
-        },
-        [&](const Plugin::Tessera::CaughtException &) {
-            logFault(
-                __LINE__,
-                QStringLiteral("could not retrieve the children of %1").arg(parent->fullName()));
-        });
-    QVector<FeatureTreeINodeItem *> items;
-    for (const QString &name : qAsConst(names)) {
-        runGuarded(
-            [&] {
-                if (FeatureTreeINodeItem *item = loadChild(parent, name)) {
-                    items.append(item);
-                }
-            },
-            [&](const Plugin::Tessera::CaughtException &) {
-                logFault(__LINE__, QStringLiteral("could not retrieve %1").arg(name));
-            });
-    }
-    m_loading.removeLast();
-    insertChildren(parent, items);
-}
-
-// Null for what gets no row of its own.
-FeatureTreeINodeItem *FeatureTreeModel::loadChild(FeatureTreeINodeItem *parent, const QString &name)
-{
-    const QSharedPointer<IParameter> parameter = parent->collection()->parameter(name);
-    if (!parameter || parameter->isNull()) {
-        return nullptr;
-    }
-    const bool isCategory = parameter->type() == Category;
-    if (isCategory
-        && (parameter->visibility() >= GenApi::Invisible || isAbove(parent, parameter))) {
-        return nullptr;
-    }
-    const bool isFlat = parent->depth() >= 2 && !m_showTreeView;
-    if (isFlat && (isCategory || parent->depth() > 2)) {
-        if (parent->depth() == 2) {
-            loadChildren(parent, parameter);
-        }
-        return nullptr;
-    }
-    auto *item = new FeatureTreeINodeItem(parent->collection(), parameter, this, name, nullptr,
-                                          m_isUtf8, parent->depth() + 1);
-    adopt(item, false);
-    return item;
-}
-
-// A category that holds itself, at whatever distance, would be loaded for ever.
-bool FeatureTreeModel::isAbove(FeatureTreeINodeItem *parent,
-                               const QSharedPointer<IParameter> &category) const
-{
-    if (m_loading.contains(category->fullName())) {
-        return true;
-    }
-    for (FeatureTreeItem *item = parent; item; item = item->parent()) {
-        const auto *nodeItem = qobject_cast<FeatureTreeINodeItem *>(item);
-        if (nodeItem && nodeItem->parameter() == category) {
-            return true;
-        }
-    }
-    return false;
-}
-
-void FeatureTreeModel::insertChildren(FeatureTreeINodeItem *parent,
-                                      const QVector<FeatureTreeINodeItem *> &items)
-{
+    const QVector<FeatureTreeINodeItem *> items =
+        FeatureTreeLoader(this, m_showTreeView).itemsFor(parent, parameter);
     if (items.isEmpty()) {
         return;
     }
     const int first = parent->childCount();
     beginInsertRows(createItemIndex(parent, 0), first, first + items.size() - 1);
     for (FeatureTreeINodeItem *item : items) {
+        adopt(item, false);
         parent->appendChild(item);
     }
     endInsertRows();

@@ -99,12 +99,6 @@ private:
     };
 
     void loadCollection(const CollectionEntry &entry);
-    QSharedPointer<ParameterCollection::IParameter> rootParameter(
-        const CollectionEntry &entry) const;
-    FeatureTreeINodeItem *loadChild(FeatureTreeINodeItem *parent, const QString &name);
-    bool isAbove(FeatureTreeINodeItem *parent,
-                 const QSharedPointer<ParameterCollection::IParameter> &category) const;
-    void insertChildren(FeatureTreeINodeItem *parent, const QVector<FeatureTreeINodeItem *> &items);
     void adopt(FeatureTreeINodeItem *item, bool isCollectionTop);
     FeatureTreeItem *itemOrRoot(const QModelIndex &index) const;
     FeatureTreeItem *orRoot(FeatureTreeItem *item) const;
@@ -112,7 +106,6 @@ private:
 
     std::unique_ptr<FeatureTreeItem> m_rootItem;
     QVector<CollectionEntry> m_collections;
-    QStringList m_loading; // categories whose children are being read
     QTimer m_pollTimer;
     int m_pollIntervalMs = 300;
     int m_visibility = 2;

@@ -17,19 +17,20 @@ QString toolTipContext(const QString &fullName)
         const char *component;
         const char *context;
     };
-    static constexpr std::array<Tree, 10> trees { {
-        { "CameraInstance", "CameraInstance" },
-        { "DeviceTransportLayer", "TransportLayer" },
-        { "StreamGrabber0", "StreamGrabber" },
-        { "Gridloop", "Gridloop" },
-        { "ImageFormatConverter", "ImageFormatConverter" },
-        { "Neurolens", "Neurolens" },
-        { "ChunkData", "ChunkData" },
-        { "CameraDevice", "CameraDevice" },
-        { "EventGrabber", "EventGrabber" },
-        { "GenTl", "Interface" },
-    } };
-    const QString component = fullName.mid(1).section(QLatin1Char('/'), 0, 0, QString::SectionSkipEmpty);
+    static constexpr std::array<Tree, 10> trees {{
+        {"CameraInstance", "CameraInstance"},
+        {"DeviceTransportLayer", "TransportLayer"},
+        {"StreamGrabber0", "StreamGrabber"},
+        {"Gridloop", "Gridloop"},
+        {"ImageFormatConverter", "ImageFormatConverter"},
+        {"Neurolens", "Neurolens"},
+        {"ChunkData", "ChunkData"},
+        {"CameraDevice", "CameraDevice"},
+        {"EventGrabber", "EventGrabber"},
+        {"GenTl", "Interface"},
+    }};
+    const QString component =
+        fullName.mid(1).section(QLatin1Char('/'), 0, 0, QString::SectionSkipEmpty);
     const auto *tree = std::find_if(trees.begin(), trees.end(), [&](const Tree &candidate) {
         return component == QLatin1String(candidate.component);
     });

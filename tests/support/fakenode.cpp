@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 Tessera contributors
+// SPDX-License-Identifier: MIT
+
+#include "plugin/contract/genapi/invalidargumentexception.h"
+#include "plugin/contract/parametercollection/booleanparameterdata.h"
+#include "plugin/contract/parametercollection/commandparameterdata.h"
+#include "plugin/contract/parametercollection/enumparameterdata.h"
+#include "plugin/contract/parametercollection/floatparameterdata.h"
+#include "plugin/contract/parametercollection/integerparameterdata.h"
+#include "plugin/contract/parametercollection/stringparameterdata.h"
+#include "support/fakecollection.h"
+
+#include <QTextCodec>
+
+using namespace ParameterCollection;
+
+namespace Tests {
+
+namespace {
+
+[[noreturn]] void refuse()
+{
+    throw GenICam::InvalidArgumentException("refused", __FILE__, __LINE__);
+}
+
+template<typename Data> QSharedPointer<ParameterData> number(const FakeNode &node)
+{
+    using Value = decltype(Data::value);
+    const auto data = QSharedPointer<Data>::create();
+    data->value = static_cast<Value>(node.number);
+    data->minimum = static_cast<Value>(node.minimum);
+    data->maximum = static_cast<Value>(
+        node.minimum < node.maximum || node.maximum < node.minimum ? node.maximum : 1000000.0);
+    data->representation = node.properties.value(QStringLiteral("Representation"));
+    return data;
+}
+
+QSharedPointer<ParameterData> blank(const FakeNode &node)
+{
+    switch (node.type) {
+    case Integer:
+        return number<IntegerParameterData>(node);
+    case Float:
+        return number<FloatParameterData>(node);
+    case Boolean:
+        return QSharedPointer<BooleanParameterData>::create();
+    case Command:
+        return QSharedPointer<CommandParameterData>::create();
+    case String:
+        return QSharedPointer<StringParameterData>::create();
+    case Enumeration: {
+        const auto data = QSharedPointer<EnumParameterData>::create();
+        data->entryNames = node.entries.toVector();
+        return data;
+    }
+    case None:
+    case Category:
+    case Other:
+        break;
+    }
+    const auto data = QSharedPointer<ParameterData>::create();
+    data->type = node.type;
+    return data;
+}
+
+} // namespace
+
+QString FakeNode::valueText() const
+{
+    switch (type) {
+    case Integer:
+    case Float:
+    case Boolean:
+        return QString::number(number, 'g', 15);
+    case Command:
+        return QStringLiteral("Done");
+    case String:
+    case Enumeration: {
+        QTextCodec::ConverterState state;
+        const QTextCodec *utf8 = QTextCodec::codecForName("UTF-8");
+        const QString decoded = utf8->toUnicode(text.constData(), text.size(), &state);
+        return state.invalidChars == 0 ? decoded : QString::fromLatin1(text);
+    }
+    case None:
+    case Category:
+    case Other:
+        break;
+    }
+    return {};
+}
+
+QSharedPointer<ParameterData> FakeNode::snapshot() const
+{
+    const QSharedPointer<ParameterData> data = blank(*this);
+    data->visibility = visibility;
+    data->isImplemented = isImplemented;
+    data->isReadable = isReadable;
+    data->isWritable = isWritable;
+    data->valueText = valueText();
+    return data;
+}
+
+void FakeNode::publish() const
+{
+    send(snapshot());
+}
+
+void FakeNode::answer(const std::function<void()> &change)
+{
+    try {
+        raise(onWrite);
+        change();
+    } catch (...) {
+        publish();
+        throw;
+    }
+    publish();
+}
+
+void FakeNode::store(double value)
+{
+    if (minimum < maximum && (value < minimum || value > maximum)) {
+        refuse();
+    }
+    number = value;
+}
+
+void FakeNode::write(double value)
+{
+    writes.append(QString::number(value, 'g', 15));
+    answer([&] { store(value); });
+}
+
+void FakeNode::write(const QString &value)
+{
+    writes.append(value);
+    answer([&] {
+        bool isNumber = true;
+        if (type == String) {
+            text = value.toLatin1();
+        } else if (type == Enumeration && entries.contains(value)) {
+            text = value.toUtf8();
+        } else {
+            const double parsed = value.toDouble(&isNumber);
+            if (!isNumber || type == Enumeration) {
+                refuse();
+            }
+            store(parsed);
+        }
+    });
+}
+
+} // namespace Tests
