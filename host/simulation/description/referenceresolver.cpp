@@ -69,11 +69,20 @@ private:
         problems.append(m_description.fullName(m_id) % QStringLiteral(": ") % what);
     }
 
+    /// Whatever a float hangs on, its companion hangs on too.
     void follow(int leader)
     {
+        addDependant(leader, m_id);
+        const auto &rules = m_description.feature(m_id).rules;
+        if (rules && rules->aliasId >= 0)
+            addDependant(leader, rules->aliasId);
+    }
+
+    void addDependant(int leader, int id)
+    {
         QVector<int> &dependants = m_description.feature(leader).dependants;
-        if (leader != m_id && !dependants.contains(m_id))
-            dependants.append(m_id);
+        if (leader != id && !dependants.contains(id))
+            dependants.append(id);
     }
 
     bool find(FeatureReference &reference, bool isFollowed = true)

@@ -58,6 +58,12 @@ void ParameterCore::drop()
     m_isCurrent = false;
 }
 
+void ParameterCore::forget()
+{
+    m_isCurrent = false;
+    m_last.clear();
+}
+
 void ParameterCore::write(const Value &value, bool verify)
 {
     m_library->write(m_id, value, verify);

@@ -34,6 +34,8 @@ public:
     Snapshot reread() const;
     /// The next access reads from the device.
     void drop();
+    /// The same, and whatever that access brings counts as changed.
+    void forget();
 
     /// Writes a value, or what `text` names. Throws as a write does.
     void write(const Value &value, bool verify);

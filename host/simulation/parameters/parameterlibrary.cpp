@@ -67,7 +67,7 @@ void ParameterLibrary::setLive(bool live)
     m_isLive = live;
     const QVector<int> ids = known();
     for (int id : ids)
-        core(id)->drop();
+        core(id)->forget();
     if (live) {
         m_device.start();
         takeFromDevice();
@@ -240,10 +240,13 @@ bool ParameterLibrary::renew(int id, bool always)
     ParameterCore *const parameter = core(id);
     if (!parameter)
         return false;
+    if (!parameter->hasReceivers()) {
+        // Whoever listens later knows nothing of what is dropped here.
+        parameter->forget();
+        return false;
+    }
     const Snapshot before = parameter->last();
     parameter->drop();
-    if (!parameter->hasReceivers())
-        return false;
     try {
         const Snapshot now = parameter->reread();
         return now->isImplemented && (always || !sayTheSame(before, now));

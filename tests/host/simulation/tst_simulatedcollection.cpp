@@ -1,17 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Tessera contributors
 // SPDX-License-Identifier: MIT
 
-#include "plugin/contract/parametercollection/booleanparameter.h"
-#include "plugin/contract/parametercollection/commandparameter.h"
-#include "plugin/contract/parametercollection/enumparameter.h"
-#include "plugin/contract/parametercollection/floatparameter.h"
-#include "plugin/contract/parametercollection/integerparameter.h"
+#include "testdevice.h"
 
-#include "host/simulation/description/descriptionreader.h"
-#include "host/simulation/simulatedcollection.h"
-
-#include <QSignalSpy>
-#include <QTest>
+#include "plugin/contract/genapi/genericexception.h"
+#include "plugin/contract/genapi/invalidargumentexception.h"
+#include "plugin/contract/parametercollection/enumparameterdata.h"
+#include "plugin/contract/parametercollection/integerparameterdata.h"
+#include "plugin/contract/parametercollection/parameternode.h"
 
 using namespace ParameterCollection;
 using namespace Simulation;
@@ -31,6 +27,17 @@ private Q_SLOTS:
     void showsValuesAsText_data();
     void showsValuesAsText();
     void attachesALateTree();
+    void describesCategoriesWithoutAskingTheDevice();
+    void givesNullObjects();
+    void answersProperties_data();
+    void answersProperties();
+    void narrowsAccessByOverride_data();
+    void narrowsAccessByOverride();
+    void changesVisibilityByOverride();
+    void refusesOverridesOfUnknownMeaning();
+    void changesWhatCanBeChosen();
+    void makesFeaturesComeAndGo();
+    void showsWhatTheDeviceHoldsOutsideItsLimitsAsNotWritable();
 
 private:
     QSharedPointer<SimulatedCollection> m_collection;
@@ -38,10 +45,7 @@ private:
 
 void TestSimulatedCollection::init()
 {
-    DescriptionReader reader;
-    const auto description = reader.read(QStringLiteral(":/test/device.json"));
-    QCOMPARE(reader.problems(), QStringList());
-    m_collection = QSharedPointer<SimulatedCollection>::create(description);
+    m_collection = openTestDevice();
 }
 
 void TestSimulatedCollection::givesOneObjectForEachName()
@@ -159,6 +163,178 @@ void TestSimulatedCollection::attachesALateTree()
     QCOMPARE(spy.first().first().toString(), late);
     QCOMPARE(m_collection->attachedParameterPaths().last(), late);
     QVERIFY(m_collection->parameter(late + QStringLiteral("/Root")));
+}
+
+void TestSimulatedCollection::describesCategoriesWithoutAskingTheDevice()
+{
+    const auto category = m_collection->parameter(cameraPath("ImageFormatControl"));
+    m_collection->faults().failReads(category->fullName(), FaultKind::GenericException);
+    const auto data = category->parameterData();
+    QCOMPARE(data->type, qint32(ParameterType::Category));
+    QVERIFY(data->isImplemented && data->isReadable && !data->isWritable);
+    QCOMPARE(data->visibility, qint32(GenApi::Beginner));
+    QCOMPARE(m_collection->counters().total().reads, 0);
+}
+
+void TestSimulatedCollection::givesNullObjects()
+{
+    m_collection->faults().setNullObject(QStringLiteral("@CameraDevice/Unheard"), true);
+    for (const char *name : {"Nothing", "Target", "Unheard"}) {
+        const auto object = m_collection->parameter(cameraPath(name));
+        QVERIFY(object && object->isNull() && object->node());
+        QVERIFY(!object->isWritable() && !object->isImplemented());
+        QCOMPARE(object->hasFilterTarget(), qstrcmp(name, "Nothing") != 0);
+        QVERIFY(throws<GenICam::GenericException>([&] { object->refresh(true); }));
+        object->node()->setProperty(QStringLiteral("Visibility"), QStringLiteral("Guru"));
+        QCOMPARE(object->node()->property(QStringLiteral("Visibility")), QStringLiteral("Guru"));
+    }
+}
+
+void TestSimulatedCollection::answersProperties_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("ofWidth");
+    QTest::addColumn<QString>("ofRegister");
+    QTest::newRow("unit") << "Unit"
+                          << "px"
+                          << "";
+    QTest::newRow("display name") << "DisplayName"
+                                  << "Width of the image"
+                                  << "";
+    QTest::newRow("tool tip") << "Tooltip"
+                              << "Width"
+                              << "";
+    QTest::newRow("description") << "Description"
+                                 << "Width in pixels."
+                                 << "";
+    QTest::newRow("link") << "DocuURL"
+                          << "https://example.invalid/width"
+                          << "";
+    QTest::newRow("representation") << "Representation"
+                                    << "Linear"
+                                    << "HexNumber";
+    QTest::newRow("unknown key") << "unit"
+                                 << ""
+                                 << "";
+}
+
+void TestSimulatedCollection::answersProperties()
+{
+    QFETCH(const QString, key);
+    const auto width = m_collection->parameter(cameraPath("Width"))->node();
+    const auto other = m_collection->parameter(cameraPath("Register"))->node();
+    QTEST(width->property(key), "ofWidth");
+    QTEST(other->property(key), "ofRegister");
+    if (other->property(key).isEmpty())
+        QCOMPARE(other->property(key, QStringLiteral("none")), QStringLiteral("none"));
+}
+
+void TestSimulatedCollection::narrowsAccessByOverride_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("mode");
+    QTest::addColumn<QString>("flags");
+    QTest::newRow("as the device has it") << "Width"
+                                          << "RW"
+                                          << "implemented readable writable";
+    QTest::newRow("read only") << "Width"
+                               << "RO"
+                               << "implemented readable";
+    QTest::newRow("write only") << "Width"
+                                << "WO"
+                                << "implemented writable";
+    QTest::newRow("not available") << "Width"
+                                   << "NA"
+                                   << "implemented";
+    QTest::newRow("not implemented") << "Width"
+                                     << "NI"
+                                     << "";
+    QTest::newRow("not widened") << "FrameCount"
+                                 << "RW"
+                                 << "implemented readable";
+    QTest::newRow("nothing in common") << "FrameCount"
+                                       << "WO"
+                                       << "implemented";
+}
+
+void TestSimulatedCollection::narrowsAccessByOverride()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QString, mode);
+    const auto target = m_collection->parameter(cameraPath(name.toLatin1().constData()));
+    target->parameterData();
+    target->node()->setProperty(QStringLiteral("AccessMode"), mode);
+    const auto data = target->parameterData();
+    QStringList flags;
+    if (data->isImplemented)
+        flags.append(QStringLiteral("implemented"));
+    if (data->isReadable)
+        flags.append(QStringLiteral("readable"));
+    if (data->isWritable)
+        flags.append(QStringLiteral("writable"));
+    QTEST(flags.join(QLatin1Char(' ')), "flags");
+    QCOMPARE(target->isWritable(), data->isWritable);
+    QCOMPARE(target->isImplemented(), data->isImplemented);
+    if (!data->isWritable)
+        QVERIFY(throws<GenICam::GenericException>(
+            [&] { target->setFromString(QStringLiteral("320")); }));
+}
+
+void TestSimulatedCollection::changesVisibilityByOverride()
+{
+    for (const char *name : {"Width", "ImageFormatControl"}) {
+        const auto target = m_collection->parameter(cameraPath(name));
+        QCOMPARE(target->visibility(), GenApi::Beginner);
+        target->node()->setProperty(QStringLiteral("Visibility"), QStringLiteral("Invisible"));
+        QCOMPARE(target->visibility(), GenApi::Invisible);
+        QCOMPARE(target->parameterData()->visibility, qint32(GenApi::Invisible));
+    }
+}
+
+void TestSimulatedCollection::refusesOverridesOfUnknownMeaning()
+{
+    const auto node = m_collection->parameter(cameraPath("Width"))->node();
+    for (const char *key : {"Visibility", "AccessMode"})
+        QVERIFY(throws<GenICam::InvalidArgumentException>(
+            [&] { node->setProperty(QString::fromLatin1(key), QStringLiteral("sometimes")); }));
+    QVERIFY(m_collection->parameter(cameraPath("Width"))->isWritable());
+}
+
+void TestSimulatedCollection::changesWhatCanBeChosen()
+{
+    const auto format = m_collection->parameter(cameraPath("PixelFormat"));
+    const auto names = [&format] {
+        return format->parameterData().dynamicCast<const EnumParameterData>()->entryNames;
+    };
+    QCOMPARE(names(), QVector<QString>({QStringLiteral("Mono8")}));
+    m_collection->parameter(cameraPath("HighBitDepth"))->setFromString(QStringLiteral("1"));
+    QCOMPARE(names(), QVector<QString>({QStringLiteral("Mono8"), QStringLiteral("Mono12")}));
+    format->setFromString(QStringLiteral("Mono12"));
+    m_collection->parameter(cameraPath("HighBitDepth"))->setFromString(QStringLiteral("0"));
+    // The device keeps an entry that cannot be chosen any more.
+    QCOMPARE(format->parameterData()->valueText, QStringLiteral("Mono12"));
+    QCOMPARE(names(), QVector<QString>({QStringLiteral("Mono8")}));
+}
+
+void TestSimulatedCollection::makesFeaturesComeAndGo()
+{
+    const auto later = m_collection->parameter(cameraPath("Later"));
+    QVERIFY(!later->parameterData()->isReadable && later->isImplemented());
+    SnapshotSpy spy(later);
+    m_collection->parameter(cameraPath("HighBitDepth"))->setFromString(QStringLiteral("1"));
+    QCOMPARE(spy.count(), 1);
+    QVERIFY(spy.snapshot()->isReadable && spy.snapshot()->isWritable);
+    QCOMPARE(spy.text(), QStringLiteral("5"));
+}
+
+void TestSimulatedCollection::showsWhatTheDeviceHoldsOutsideItsLimitsAsNotWritable()
+{
+    const auto width = m_collection->parameter(cameraPath("Width"));
+    SnapshotSpy spy(width);
+    m_collection->changeOnDevice(cameraPath("Width"), 5000);
+    QTRY_COMPARE(spy.count(), 1);
+    QCOMPARE(spy.text(), QStringLiteral("5000"));
+    QVERIFY(!spy.snapshot()->isWritable && spy.snapshot()->isReadable);
 }
 
 QTEST_GUILESS_MAIN(TestSimulatedCollection)
