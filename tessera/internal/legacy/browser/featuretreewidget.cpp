@@ -58,7 +58,7 @@ void FeatureTreeWidget::attachView()
 {
     m_treeView->setModel(m_model);
     connect(m_treeView->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            qOverload<QModelIndex>(&FeatureTreeWidget::onCurrentChanged));
+            qOverload<const QModelIndex &>(&FeatureTreeWidget::onCurrentChanged));
 }
 
 QSize FeatureTreeWidget::sizeHint() const
@@ -68,7 +68,7 @@ QSize FeatureTreeWidget::sizeHint() const
 
 void FeatureTreeWidget::addParameterCollection(
     QSharedPointer<ParameterCollection::IParameterCollection> pParameterCollection,
-    QString rootName, QString roleName, bool isUtf8)
+    const QString &rootName, const QString &roleName, bool isUtf8)
 {
     m_model->addParameterCollection(pParameterCollection, rootName, roleName, isUtf8);
     m_model->refreshAll();
@@ -118,7 +118,7 @@ FeatureTreeItem *FeatureTreeWidget::currentItem() const
     return m_model->itemFromIndex(m_treeView->currentIndex());
 }
 
-void FeatureTreeWidget::onCurrentChanged(QModelIndex current)
+void FeatureTreeWidget::onCurrentChanged(const QModelIndex &current)
 {
     const FeatureTreeItem *item = m_model->itemFromIndex(current);
     if (!item) {

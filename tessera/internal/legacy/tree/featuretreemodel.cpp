@@ -31,15 +31,6 @@ void logFault(int line, const QString &text)
                                   QStringLiteral("featuretreemodel %1 %2").arg(line).arg(text));
 }
 
-QVector<FeatureTreeItem *> loadedChildren(FeatureTreeItem *item)
-{
-    QVector<FeatureTreeItem *> children;
-    for (int row = 0; FeatureTreeItem *child = item->child(row); ++row) {
-        children.append(child);
-    }
-    return children;
-}
-
 void collectNamed(FeatureTreeItem *item, QStringList &names, QList<FeatureTreeItem *> &found)
 {
     if (names.removeOne(item->fullName())) {
@@ -333,8 +324,7 @@ void FeatureTreeModel::refreshAll()
 
 void FeatureTreeModel::announce(FeatureTreeItem *item, int levels)
 {
-    const QVector<FeatureTreeItem *> children = loadedChildren(item);
-    for (FeatureTreeItem *child : children) {
+    for (int row = 0; FeatureTreeItem *child = item->child(row); ++row) {
         const QModelIndex index = createItemIndex(child, 0);
         Q_EMIT dataChanged(index, index);
         if (levels > 1) {
@@ -372,8 +362,7 @@ QModelIndex FeatureTreeModel::indexOfRoleValue(int role, const QVariant &value,
 QList<FeatureTreeItem *> FeatureTreeModel::itemsForNames(QStringList &names)
 {
     QList<FeatureTreeItem *> found;
-    const QVector<FeatureTreeItem *> tops = loadedChildren(m_rootItem.get());
-    for (FeatureTreeItem *top : tops) {
+    for (int row = 0; FeatureTreeItem *top = m_rootItem->child(row); ++row) {
         collectNamed(top, names, found);
     }
     return found;
@@ -382,8 +371,7 @@ QList<FeatureTreeItem *> FeatureTreeModel::itemsForNames(QStringList &names)
 void FeatureTreeModel::markFavorites(const QStringList &names)
 {
     const FavoriteNames favorites(names);
-    const QVector<FeatureTreeItem *> tops = loadedChildren(m_rootItem.get());
-    for (FeatureTreeItem *top : tops) {
+    for (int row = 0; FeatureTreeItem *top = m_rootItem->child(row); ++row) {
         ::markFavorites(*top, favorites);
     }
 }
@@ -396,8 +384,7 @@ bool FeatureTreeModel::markFavoritesBelow(FeatureTreeItem *item, const QStringLi
 void FeatureTreeModel::markSearchMatches(const QString &text)
 {
     const QString trimmed = text.trimmed();
-    const QVector<FeatureTreeItem *> tops = loadedChildren(m_rootItem.get());
-    for (FeatureTreeItem *top : tops) {
+    for (int row = 0; FeatureTreeItem *top = m_rootItem->child(row); ++row) {
         ::markSearchMatches(*top, trimmed);
     }
 }
