@@ -74,6 +74,7 @@ private:
     QTreeView m_view;
     std::unique_ptr<FeatureTreeDelegate> m_delegate;
     QRect m_rect;
+    int m_scale = 1; // 2 at 192 dpi
     Tests::WarningGuard m_guard;
 };
 
@@ -83,7 +84,8 @@ void tst_FeatureNamePainter::init()
     m_model.clear();
     m_model.appendRow({new QStandardItem(QStringLiteral("Exposure Time")), new QStandardItem});
     m_searchText.clear();
-    m_rect = QRect(80, 0, 240, 30);
+    m_scale = m_view.logicalDpiX() / 96;
+    m_rect = QRect(80, 0, 240 * m_scale, 30);
     m_delegate = std::make_unique<FeatureTreeDelegate>(&m_view, &m_proxy, &m_searchText);
     setRole(DepthRole, 1);
     setRole(RelativePathRole, QStringLiteral("ExposureTimeAbs"));
@@ -91,7 +93,7 @@ void tst_FeatureNamePainter::init()
 
 QImage tst_FeatureNamePainter::paint(QStyle::State state)
 {
-    QImage image(400, 30, QImage::Format_RGB32);
+    QImage image(160 + 240 * m_scale, 30, QImage::Format_RGB32);
     image.fill(Qt::white);
     QStyleOptionViewItem option;
     option.initFrom(&m_view);
@@ -163,14 +165,14 @@ void tst_FeatureNamePainter::endsAHitAtTheElision()
 {
     setRole(IsSearchMatchRole, true);
     m_searchText = QStringLiteral("xposure tim");
-    const int whole = count(paint(), QRect(0, 0, 400, 1), search);
-    m_rect.setWidth(90);
-    const int cut = count(paint(), QRect(0, 0, 400, 1), search);
+    const int whole = count(paint(), QRect(0, 0, 1000, 1), search);
+    m_rect.setWidth(90 * m_scale);
+    const int cut = count(paint(), QRect(0, 0, 1000, 1), search);
     QVERIFY(cut > 0 && cut < whole);
     m_searchText = QStringLiteral("time");
-    QCOMPARE(count(paint(), QRect(0, 0, 400, 30), search), 0);
+    QCOMPARE(count(paint(), QRect(0, 0, 1000, 30), search), 0);
     setRole(NoElideRole, true);
-    QVERIFY(count(paint(), QRect(0, 0, 400, 30), search) > 0);
+    QVERIFY(count(paint(), QRect(0, 0, 1000, 30), search) > 0);
 }
 
 void tst_FeatureNamePainter::framesAHitInThePath()

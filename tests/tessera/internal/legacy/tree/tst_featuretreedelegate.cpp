@@ -286,7 +286,7 @@ void tst_FeatureTreeDelegate::describesEditorsToScreenReaders()
     QVERIFY(!editor->accessibleDescription().contains(QLatin1Char('<')));
 }
 
-// One size of screen for each run of this program: 96 dpi gives the model's height.
+// At 96 dpi the model's height, above it the font's; this program runs with both.
 void tst_FeatureTreeDelegate::givesRowsTheHeightOfTheFont()
 {
     add(QStringLiteral("F Integer 1"));

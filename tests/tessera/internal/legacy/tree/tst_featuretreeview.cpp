@@ -353,9 +353,9 @@ void tst_FeatureTreeView::givesItsWidthToTheNames()
     QCOMPARE(m_view->columnWidth(0), m_view->viewport()->width());
     m_view->resize(250, 300);
     QCOMPARE(m_view->columnWidth(0), m_view->viewport()->width());
-    m_view->setColumnWidth(0, 50);
+    m_view->setColumnWidth(0, 100);
     m_view->resize(250, 200);
-    QCOMPARE(m_view->columnWidth(0), 50);
+    QCOMPARE(m_view->columnWidth(0), 100);
 }
 
 void tst_FeatureTreeView::showsNewModelsInPlaceOfTheOld()
