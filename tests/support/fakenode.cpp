@@ -31,6 +31,7 @@ template<typename Data> QSharedPointer<ParameterData> number(const FakeNode &nod
     data->minimum = static_cast<Value>(node.minimum);
     data->maximum = static_cast<Value>(
         node.minimum < node.maximum || node.maximum < node.minimum ? node.maximum : 1000000.0);
+    data->increment = 1;
     data->representation = node.properties.value(QStringLiteral("Representation"));
     return data;
 }

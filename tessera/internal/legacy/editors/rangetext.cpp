@@ -12,7 +12,9 @@
 
 QString limitText(int limit, int base)
 {
-    return QString::number(qint64 {limit}, base);
+    // Qt writes negative numbers in other bases than 10 as two's complement.
+    const QString digits = QString::number(qAbs(qint64 {limit}), base);
+    return limit < 0 ? QLatin1Char('-') + digits : digits;
 }
 
 FloatRangeText floatRangeText(double minimum, double maximum, double increment, int precision,
