@@ -24,7 +24,7 @@ IFeatureTreeModelExtension *FeatureTreeProxyModel::source() const
 
 bool FeatureTreeProxyModel::isOverTree() const
 {
-    return qobject_cast<FeatureTreeModel *>(sourceModel());
+    return qobject_cast<FeatureTreeModel *>(sourceModel()) != nullptr;
 }
 
 void FeatureTreeProxyModel::addParameterCollection(
