@@ -138,12 +138,13 @@ void FeatureTreeDelegate::setEditorData(QWidget *editor, const QModelIndex &inde
         QStyledItemDelegate::setEditorData(editor, index);
         return;
     }
+    const bool isInUse = editor->hasFocus();
     const FeatureTreeItem *item = m_model->itemFromIndex(index);
     const FeatureTreeINodeItem *feature = nodeItem(index);
     auto *itemEditor = dynamic_cast<AbstractItemEditor *>(editor);
     if (itemEditor && feature) {
         itemEditor->updateEditor({feature->parameter(), feature->parameterData()});
-    } else if (item && !editor->hasFocus()) {
+    } else if (item && !isInUse) {
         QStyledItemDelegate::setEditorData(editor, index);
     }
 }

@@ -72,7 +72,7 @@ void FeatureTreeView::createModels()
 {
     auto *proxy = new FeatureTreeProxyModel(this);
     proxy->setSourceModel(new FeatureTreeModel(proxy));
-    setModel(proxy);
+    FeatureTreeView::setModel(proxy);
     proxy->setDynamicSortFilter(false);
     proxy->setFilterCaseSensitivity(Qt::CaseInsensitive);
     proxy->setFilterKeyColumn(1);
