@@ -22,6 +22,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 
 using namespace Simulation;
@@ -41,6 +42,12 @@ QStringList paths()
         name.prepend(QStringLiteral("@CameraDevice/"));
     }
     return names;
+}
+
+// Waiting for doubles needs a tolerance: QTRY_COMPARE waits for the very same one.
+bool near(double left, double right)
+{
+    return std::abs(left - right) < 1e-6;
 }
 
 void enterText(QWidget *box, const char *text)
@@ -163,15 +170,15 @@ private Q_SLOTS:
         QTRY_COMPARE(part<QSpinBox>(Slider)->value(), 1504);
 
         press(StepFloat, {Qt::Key_Up, Qt::Key_PageUp, Qt::Key_Down});
-        QTRY_COMPARE(onCamera(StepFloat).toDouble(), 50000.0);
+        QTRY_VERIFY(near(onCamera(StepFloat).toDouble(), 50000.0));
         QTRY_COMPARE(part<QDoubleSpinBox>(StepFloat)->value(), 50000.0);
 
         press(LinearFloat, {Qt::Key_Up, Qt::Key_PageUp});
-        QTRY_COMPARE(onCamera(LinearFloat).toDouble(), 1.81);
+        QTRY_VERIFY(near(onCamera(LinearFloat).toDouble(), 1.81));
         QTRY_COMPARE(part<QDoubleSpinBox>(LinearFloat)->text(), QStringLiteral("1.81"));
 
         press(LogFloat, {Qt::Key_Up, Qt::Key_Up, Qt::Key_Down});
-        QTRY_COMPARE(part<QDoubleSpinBox>(LogFloat)->value(), onCamera(LogFloat).toDouble());
+        QTRY_VERIFY(near(part<QDoubleSpinBox>(LogFloat)->value(), onCamera(LogFloat).toDouble()));
         QVERIFY(onCamera(LogFloat).toDouble() > 5000.0);
         QVERIFY(onCamera(LogFloat).toDouble() < 5200.0);
     }
