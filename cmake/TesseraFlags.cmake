@@ -26,11 +26,11 @@ target_compile_options(tessera_flags INTERFACE
     $<$<CXX_COMPILER_ID:GNU>:-Wsuggest-override;-Wduplicated-cond;-Wlogical-op>
     $<$<BOOL:${TESSERA_WARNINGS_AS_ERRORS}>:-Werror>)
 
-target_link_options(tessera_flags INTERFACE
-    # clang leaves the sanitizers' run time to the program, so that libraries cannot be closed.
-    $<$<NOT:$<AND:$<CXX_COMPILER_ID:Clang>,$<BOOL:${TESSERA_SANITIZE}>>>:LINKER:--no-undefined>)
-
 set(TESSERA_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined")
+# clang leaves the sanitizers' run time to the program, so that libraries cannot be closed.
+if(NOT TESSERA_SANITIZE OR NOT CMAKE_CXX_COMPILER_ID STREQUAL Clang)
+    target_link_options(tessera_flags INTERFACE LINKER:--no-undefined)
+endif()
 if(TESSERA_SANITIZE)
     add_compile_options(-fsanitize=${TESSERA_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${TESSERA_SANITIZE})

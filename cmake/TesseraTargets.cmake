@@ -10,8 +10,12 @@ function(tessera_sources target)
     if(headers)
         file(RELATIVE_PATH set_name "${PROJECT_SOURCE_DIR}" "${CMAKE_CURRENT_SOURCE_DIR}")
         string(MAKE_C_IDENTIFIER "headers_${set_name}" set_name)
+        set(root "${PROJECT_SOURCE_DIR}")
+        if(CMAKE_CURRENT_SOURCE_DIR MATCHES "^${PROJECT_SOURCE_DIR}/tessera/")
+            set(root "${PROJECT_SOURCE_DIR}/tessera")
+        endif()
         target_sources(${target} PUBLIC FILE_SET ${set_name} TYPE HEADERS
-                       BASE_DIRS "${CMAKE_CURRENT_SOURCE_DIR}" FILES ${headers})
+                       BASE_DIRS "${root}" FILES ${headers})
     endif()
 endfunction()
 
@@ -53,7 +57,7 @@ function(tessera_add_test)
     endif()
     set_property(TEST ${arg_NAME} PROPERTY TIMEOUT 300)
     set_property(TEST ${arg_NAME} PROPERTY ENVIRONMENT
-        "QT_QPA_PLATFORM=${platform}" QT_QUICK_BACKEND=software QT_FONT_DPI=96 LC_ALL=C.UTF-8
+        "QT_QPA_PLATFORM=${platform}" QT_XCB_GL_INTEGRATION=none QT_QUICK_BACKEND=software QT_FONT_DPI=96 LC_ALL=C.UTF-8
         "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/leaks-of-others.txt:print_suppressions=0"
-        "UBSAN_OPTIONS=print_stacktrace=1")
+        ASAN_OPTIONS=fast_unwind_on_malloc=0 UBSAN_OPTIONS=print_stacktrace=1)
 endfunction()

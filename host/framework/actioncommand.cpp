@@ -91,7 +91,7 @@ void ActionCommand::followActions()
 {
     const QAction *action = target();
     m_proxy.setEnabled(action != nullptr);
-    m_proxy.setVisible(std::any_of(m_actions.begin(), m_actions.end(),
+    m_proxy.setVisible(std::any_of(m_actions.cbegin(), m_actions.cend(),
                                    [](const QAction *each) { return each->isVisible(); }));
     if (action == nullptr && !m_actions.isEmpty()) {
         action = m_actions.constFirst();

@@ -7,14 +7,14 @@
 /// exist before the first plug-in is initialized.
 namespace Host::Ids {
 
-constexpr char cameraMenu[] = "VantrelViewer.Menu.Camera";
-constexpr char windowMenu[] = "VantrelViewer.Menu.Window";
+constexpr const char *cameraMenu = "VantrelViewer.Menu.Camera";
+constexpr const char *windowMenu = "VantrelViewer.Menu.Window";
 /// In the Camera menu: takes the copy command.
-constexpr char cameraFeaturesGroup[] = "VantrelViewer.Group.Camera.Features";
+constexpr const char *cameraFeaturesGroup = "VantrelViewer.Group.Camera.Features";
 /// In the Window menu: lists the dockable windows.
-constexpr char windowsGroup[] = "VantrelViewer.Group.Window.Windows";
+constexpr const char *windowsGroup = "VantrelViewer.Group.Window.Windows";
 /// A container whose actions are appended to the context menu of feature panes.
-constexpr char featureTreeContextMenu[] = "VantrelViewer.FeatureTreeContextMenu";
-constexpr char globalContext[] = "AppCore.Global.Context";
+constexpr const char *featureTreeContextMenu = "VantrelViewer.FeatureTreeContextMenu";
+constexpr const char *globalContext = "AppCore.Global.Context";
 
 } // namespace Host::Ids

@@ -29,7 +29,7 @@ QString codeOfSystem()
 {
     const QStringList locales = QLocale::system().uiLanguages();
     for (const QString &locale : locales) {
-        const QString code = locale.left(2).toLower();
+        QString code = locale.left(2).toLower();
         if (isKnown(code)) {
             return code;
         }

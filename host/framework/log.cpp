@@ -26,11 +26,12 @@ Log &Log::instance()
 quint64 Log::categoryId(const QByteArray &name)
 {
     const QMutexLocker locker(&m_mutex);
-    quint64 &id = m_categoryIds[name];
-    if (id == 0) {
-        m_categoryNames.append(QString::fromUtf8(name));
-        id = static_cast<quint64>(m_categoryNames.size());
+    if (const quint64 known = m_categoryIds.value(name)) {
+        return known;
     }
+    m_categoryNames.append(QString::fromUtf8(name));
+    const auto id = static_cast<quint64>(m_categoryNames.size());
+    m_categoryIds.insert(name, id);
     return id;
 }
 

@@ -12,7 +12,9 @@ class QString;
 namespace Host {
 
 /// Why a plug-in was refused: one line that names the file and the reason.
-class VANTREL_HOST_EXPORT PluginError final : public std::runtime_error
+// Exceptions are copied when thrown.
+class VANTREL_HOST_EXPORT PluginError final
+    : public std::runtime_error // clazy:exclude=copyable-polymorphic
 {
 public:
     PluginError(const QString &path, const QString &reason);

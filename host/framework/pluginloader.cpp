@@ -87,8 +87,8 @@ void PluginLoader::load(const QString &path, const QString &language)
         throw PluginError(path, QStringLiteral("\"%1\" is there already.").arg(metaData.name));
     }
     metaData.requireDependencies(*m_catalogue, path);
-    m_plugins.append({instantiate(loader), metaData.name});
-    Plugin &plugin = m_plugins.last();
+    m_plugins.push_back({instantiate(loader), metaData.name});
+    Plugin &plugin = m_plugins.back();
     plugin.instance->setObjectName(metaData.name);
     if (auto *localized = qobject_cast<ALocalizedPlugin *>(plugin.instance)) {
         guarded(plugin.name, "setLanguage", [&] { localized->setLanguage(language); });
@@ -136,7 +136,7 @@ QStringList PluginLoader::names() const
 bool PluginLoader::mayClose(bool forced)
 {
     bool result = true;
-    for (const Plugin &plugin : qAsConst(m_plugins)) {
+    for (const Plugin &plugin : m_plugins) {
         if (plugin.initialized) {
             guarded(plugin.name, "checkPluginClosability",
                     [&] { result = plugin.instance->checkPluginClosability(forced) && result; });
@@ -153,8 +153,8 @@ void PluginLoader::shutDown()
     m_down = true;
     std::for_each(m_plugins.rbegin(), m_plugins.rend(),
                   [this](Plugin &plugin) { uninitialize(plugin); });
-    while (!m_plugins.isEmpty()) {
-        delete m_plugins.takeLast().instance;
+    for (; !m_plugins.empty(); m_plugins.pop_back()) {
+        delete m_plugins.back().instance;
     }
     m_registry->clear();
     deleteQuickWindows();

@@ -9,7 +9,8 @@
 #include <QSharedPointer>
 #include <QString>
 #include <QStringList>
-#include <QVector>
+
+#include <vector>
 
 namespace Host {
 
@@ -58,7 +59,7 @@ private:
 
     QSharedPointer<ServiceRegistry> m_registry;
     QSharedPointer<PluginCatalogue> m_catalogue;
-    QVector<Plugin> m_plugins;
+    std::vector<Plugin> m_plugins;
     bool m_down = false;
 };
 

@@ -37,7 +37,7 @@ QJsonObject readObject(const QPluginLoader &loader)
 
 QString nameIn(const QJsonObject &object, const QString &path)
 {
-    const QString name = object.value(QLatin1String("Name")).toString();
+    QString name = object.value(QLatin1String("Name")).toString();
     if (name.isEmpty()) {
         throw PluginError(path, QStringLiteral("its metadata has no \"Name\"."));
     }
@@ -46,8 +46,7 @@ QString nameIn(const QJsonObject &object, const QString &path)
 
 QVersionNumber versionIn(const QJsonObject &object, const QString &path, const QString &of)
 {
-    const auto version =
-        QVersionNumber::fromString(object.value(QLatin1String("Version")).toString());
+    auto version = QVersionNumber::fromString(object.value(QLatin1String("Version")).toString());
     if (version.isNull()) {
         throw PluginError(path, QStringLiteral("its metadata has no \"Version\" of %1.").arg(of));
     }

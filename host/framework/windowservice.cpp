@@ -21,7 +21,7 @@ using Plugin::AppCore::IActionCommand;
 
 namespace {
 
-constexpr char menuEntrySuffix[] = "windowEntry";
+constexpr const char *menuEntrySuffix = "windowEntry";
 
 void logRefusal(const CId &id, const QString &reason)
 {

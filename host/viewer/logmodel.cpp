@@ -43,7 +43,7 @@ QVariant LogModel::data(const QModelIndex &index, int role) const
     }
     switch (index.column()) {
     case Time:
-        return entry.time.toString(QStringLiteral("HH:mm:ss.zzz"));
+        return entry.time.toString(QStringLiteral("HH:mm:ss"));
     case Level:
         return Host::levelText(entry.level);
     case Category:

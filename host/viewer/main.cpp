@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "commandline.h"
+#include "qtmessages.h"
 #include "viewerapplication.h"
 
 #include <host/framework/languagechoice.h>
-#include <host/framework/preparequick.h>
+#include <host/framework/quick.h>
+#include <plugin/contract/core/baseexception.h>
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -90,6 +92,9 @@ int run(const Viewer::Options &options)
     } catch (const std::exception &e) {
         complain(QString::fromUtf8(e.what()));
         return exitRefused;
+    } catch (const Core::Exception::BaseException &e) {
+        complain(QString::fromUtf8(e.what()));
+        return exitRefused;
     }
     const int exitCode = QApplication::exec();
     viewer.shutDown();
@@ -100,6 +105,7 @@ int run(const Viewer::Options &options)
 
 int main(int argc, char *argv[])
 {
+    Viewer::sendQtMessagesToLog();
     // Before any plug-in: their settings lie under these names.
     QCoreApplication::setOrganizationName(QStringLiteral("Tessera"));
     QCoreApplication::setApplicationName(QStringLiteral("tessera-viewer"));

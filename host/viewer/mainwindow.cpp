@@ -12,9 +12,11 @@
 #include "sourcesession.h"
 #include "visibilitylevel.h"
 
+#include <host/framework/hostids.h>
 #include <host/framework/menuservice.h>
 #include <host/framework/pluginloader.h>
 #include <host/framework/windowservice.h>
+#include <plugin/contract/appcore/actioncontainer.h>
 #include <plugin/contract/core/id.h>
 
 #include <QApplication>
@@ -25,7 +27,11 @@
 #include <QSettings>
 #include <QStatusBar>
 
+#include <algorithm>
+
 namespace Viewer {
+
+using Core::AppCoreComponents::CContext;
 
 namespace {
 
@@ -50,7 +56,7 @@ MainWindow::MainWindow(SourceSession *session, CurrentFeature *feature)
     : m_session(session)
     , m_feature(feature)
     , m_menuService(QSharedPointer<Host::MenuService>::create(this))
-    , m_windowService(QSharedPointer<Host::WindowService>::create(this))
+    , m_windowService(QSharedPointer<Host::WindowService>::create(this, m_menuService))
     , m_visibilityLevel(new VisibilityLevel(this))
 {
     setObjectName(QStringLiteral("viewerWindow"));
@@ -91,7 +97,9 @@ void MainWindow::restoreLayout()
 {
     QSettings settings;
     restoreGeometry(settings.value(layoutKey("Geometry")).toByteArray());
-    restoreState(settings.value(layoutKey("State")).toByteArray());
+    if (!restoreState(settings.value(layoutKey("State")).toByteArray())) {
+        arrangeDocks();
+    }
 }
 
 void MainWindow::saveLayout() const
@@ -122,9 +130,24 @@ void MainWindow::makeDocks()
     QDockWidget *log = addDock(this, QStringLiteral("Viewer.Dock.Log"), tr("Log"),
                                new LogView(this), Qt::BottomDockWidgetArea);
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
-    resizeDocks({devices}, {width() / 4}, Qt::Horizontal);
-    resizeDocks({documentation, log}, {width() / 3, width() / 3}, Qt::Horizontal);
-    resizeDocks({documentation}, {height() / 4}, Qt::Vertical);
+    m_docks = {devices, documentation, log};
+}
+
+// The first start: most of the window belongs to the features.
+void MainWindow::arrangeDocks()
+{
+    QDockWidget *devices = m_docks.at(0);
+    QDockWidget *documentation = m_docks.at(1);
+    QDockWidget *log = m_docks.at(2);
+    const auto docks = findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    const auto features = std::find_if(docks.cbegin(), docks.cend(), [this](QDockWidget *dock) {
+        return dockWidgetArea(dock) == Qt::RightDockWidgetArea && !dock->isHidden();
+    });
+    if (features != docks.cend()) {
+        resizeDocks({devices, *features}, {width() * 3 / 10, width() * 7 / 10}, Qt::Horizontal);
+        resizeDocks({*features, documentation}, {height() * 3 / 4, height() / 4}, Qt::Vertical);
+    }
+    resizeDocks({documentation, log}, {width() * 3 / 10, width() * 4 / 10}, Qt::Horizontal);
 }
 
 QMenu *MainWindow::makeContainerMenu(const Core::CId &id, const QString &title)
@@ -136,13 +159,18 @@ QMenu *MainWindow::makeContainerMenu(const Core::CId &id, const QString &title)
 
 void MainWindow::makeMenus()
 {
-    const Core::CId cameraId("VantrelViewer.Menu.Camera");
+    const Core::CId cameraId(Host::Ids::cameraMenu);
     QMenu *camera = makeContainerMenu(cameraId, tr("&Camera"));
     camera->addActions(m_devices->sourceActions());
     camera->addSeparator();
-    m_menuService->addGroup(cameraId, Core::CId("VantrelViewer.Group.Camera.Features"));
-    camera->addSeparator();
-    camera->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+    m_menuService->addGroup(cameraId, Core::CId(Host::Ids::cameraFeaturesGroup));
+    auto *quit = new QAction(tr("&Quit"), this);
+    quit->setShortcut(QKeySequence::Quit);
+    connect(quit, &QAction::triggered, this, &QWidget::close);
+    m_menuService->actionContainer(cameraId)->addAction(
+        m_menuService->registerAction(quit, Core::CId("VantrelViewer.Quit"),
+                                      CContext(Core::CId(Host::Ids::globalContext))),
+        Core::CId("VantrelViewer.Group.Camera.Application"));
 
     QMenu *view = menuBar()->addMenu(tr("&View"));
     view->addSection(tr("Visibility Level"));
@@ -155,19 +183,18 @@ void MainWindow::makeMenus()
     connect(language, &LanguageMenu::hint, this,
             [this](const QString &text) { statusBar()->showMessage(text); });
 
-    const Core::CId windowId("VantrelViewer.Menu.Window");
+    const Core::CId windowId(Host::Ids::windowMenu);
     QMenu *window = makeContainerMenu(windowId, tr("&Window"));
-    const auto docks = findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    for (QDockWidget *dock : docks) {
+    for (QDockWidget *dock : qAsConst(m_docks)) {
         window->addAction(dock->toggleViewAction());
     }
     window->addSeparator();
-    m_menuService->addGroup(windowId, Core::CId("VantrelViewer.Group.Window.Windows"));
+    m_menuService->addGroup(windowId, Core::CId(Host::Ids::windowsGroup));
 
     menuBar()->addMenu(tr("&Help"))->addAction(tr("&About"), this, &MainWindow::showAbout);
 
     auto *context = new QMenu(this);
-    m_menuService->createContainer(Core::CId("VantrelViewer.FeatureTreeContextMenu"), context);
+    m_menuService->createContainer(Core::CId(Host::Ids::featureTreeContextMenu), context);
     new FeatureContextMenu(context, m_feature, m_visibilityLevel, this);
 }
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QList>
 #include <QMainWindow>
 #include <QSharedPointer>
 
@@ -50,6 +51,7 @@ protected:
 private:
     void makeMenus();
     void makeDocks();
+    void arrangeDocks();
     QMenu *makeContainerMenu(const Core::CId &id, const QString &title);
     void showAbout();
 
@@ -60,6 +62,7 @@ private:
     QSharedPointer<Host::WindowService> m_windowService;
     VisibilityLevel *m_visibilityLevel; // by parent
     DevicesView *m_devices = nullptr; // by parent
+    QList<QDockWidget *> m_docks; // by parent: Devices, Documentation, Log
 };
 
 } // namespace Viewer

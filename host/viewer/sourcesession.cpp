@@ -8,8 +8,9 @@
 #include <host/framework/parameterpool.h>
 #include <host/framework/serviceregistry.h>
 #include <host/framework/sourcerecord.h>
+#include <host/simulation/simulatedcollection.h>
 #include <host/simulation/simulatedsource.h>
-#include <host/simulation/sourcecatalogue.h>
+#include <plugin/contract/core/logging.h>
 #include <plugin/contract/viewer/exceptiondialogs.h>
 #include <plugin/contract/viewer/featuretreecontrolservice.h>
 
@@ -25,11 +26,12 @@ struct SourceSession::Entry
 {
     QSharedPointer<Simulation::SimulatedSource> source;
     BaseInfoPtr record;
+    bool isOpen = false; ///< for the user; a device that was unplugged stays so until it is closed
 };
 
 namespace {
 
-BaseInfoPtr makeRecord(const Simulation::SourceInfo &info)
+BaseInfoPtr makeRecord(const Simulation::DeviceInfo &info)
 {
     if (info.category == QLatin1String("Device")) {
         return QSharedPointer<Host::CameraRecord>::create(info.displayName, info.model,
@@ -38,7 +40,20 @@ BaseInfoPtr makeRecord(const Simulation::SourceInfo &info)
     return QSharedPointer<Host::SourceRecord>::create(info.category);
 }
 
+// A description with a mistake still gives a source, without the entry that has it.
+void logProblem(const QString &problem)
+{
+    static const quint64 category = Core::Logging::getCatId("vantrel.viewer.sources");
+    Core::Logging::createLogEntry(Core::Logging::ELogLevel::Fault, category, problem);
+}
+
 } // namespace
+
+void SourceSession::addAll()
+{
+    const QStringList ids = m_catalogue.ids();
+    std::for_each(ids.cbegin(), ids.cend(), [this](const QString &id) { add(id); });
+}
 
 SourceSession::SourceSession(QSharedPointer<Host::ServiceRegistry> registry,
                              QSharedPointer<Host::ParameterPool> pool, QObject *parent)
@@ -55,10 +70,13 @@ void SourceSession::add(const QString &id)
     if (indexOf(id) >= 0) {
         return;
     }
-    const auto source = Simulation::SourceCatalogue::create(id);
+    const auto source = m_catalogue.makeSource(id);
+    const QStringList problems = m_catalogue.problems();
+    std::for_each(problems.cbegin() + m_problemsLogged, problems.cend(), &logProblem);
+    m_problemsLogged = problems.size();
     const BaseInfoPtr record = makeRecord(source->info());
     m_pool->insert(record, source->collection());
-    m_entries.push_back({source, record});
+    m_entries.push_back({source, record, false});
     Q_EMIT changed(-1);
 }
 
@@ -105,7 +123,7 @@ QString SourceSession::kind(int index) const
 bool SourceSession::isOpen(int index) const
 {
     const Entry *found = entry(index);
-    return found && found->source->isOpen();
+    return found && found->isOpen;
 }
 
 int SourceSession::activeIndex() const
@@ -131,7 +149,7 @@ void SourceSession::open(int index)
     if (!opening) {
         return;
     }
-    if (opening->source->isOpen()) {
+    if (opening->isOpen) {
         setActive(index);
         return;
     }
@@ -142,6 +160,7 @@ void SourceSession::open(int index)
                       tr("%1 could not be opened.").arg(displayName(index)), nullptr);
         return;
     }
+    opening->isOpen = true;
     if (const auto service = panes()) {
         service->registerParameterSource(opening->record);
     }
@@ -152,7 +171,7 @@ void SourceSession::open(int index)
 void SourceSession::close(int index)
 {
     Entry *closing = entry(index);
-    if (!closing || !closing->source->isOpen()) {
+    if (!closing || !closing->isOpen) {
         return;
     }
     // The panes let go of the source before it falls silent; then the next one is named, because
@@ -161,6 +180,7 @@ void SourceSession::close(int index)
         service->unregisterParameterSource(closing->record);
     }
     closing->source->close();
+    closing->isOpen = false;
     Q_EMIT changed(index);
     Q_EMIT closed(index);
     announceActive(m_active == index ? openNeighbour(index) : m_active);

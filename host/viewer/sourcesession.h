@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <host/simulation/sourcecatalogue.h>
 #include <plugin/contract/appcore/baseinfo.h>
 
 #include <QObject>
@@ -41,8 +42,13 @@ public:
     ~SourceSession() override;
 
     /// Adds the source with this id, closed. Adding it again changes nothing.
-    /// \throws std::exception for an id that names no source, or a source that cannot be described.
+    /// Mistakes in its description are logged.
+    /// \throws Core::Exception::BaseException with one clear line for an id that names no source,
+    /// or a description that cannot be read.
     void add(const QString &id);
+
+    /// Adds every source there is.
+    void addAll();
 
     int count() const;
     int indexOf(const QString &id) const;
@@ -91,6 +97,8 @@ private:
 
     QSharedPointer<Host::ServiceRegistry> m_registry;
     QSharedPointer<Host::ParameterPool> m_pool;
+    Simulation::SourceCatalogue m_catalogue;
+    int m_problemsLogged = 0;
     std::vector<Entry> m_entries;
     int m_active = -1;
 };

@@ -16,15 +16,16 @@
 #include <host/framework/menuservice.h>
 #include <host/framework/parameterpool.h>
 #include <host/framework/plugincatalogue.h>
+#include <host/framework/pluginerror.h>
 #include <host/framework/pluginloader.h>
 #include <host/framework/serviceregistry.h>
 #include <host/framework/windowservice.h>
-#include <host/simulation/sourcecatalogue.h>
 #include <plugin/contract/core/languagehelper.h>
 #include <plugin/contract/viewer/featuretreestatusservice.h>
 
 #include <QAction>
 #include <QClipboard>
+#include <QDir>
 #include <QGuiApplication>
 #include <QStatusBar>
 #include <QTextStream>
@@ -51,8 +52,7 @@ void ViewerApplication::start(const QString &pluginFolder)
 {
     makeServices();
     m_loader.reset(new Host::PluginLoader(m_registry, m_catalogue));
-    m_loader->loadFolder(pluginFolder);
-    m_loader->initialize(LanguageHelper::loadLanguageId());
+    loadPlugins(pluginFolder);
     m_window->setLoader(m_loader.data());
     const auto status = Host::findService<IFeatureTreeStatusService>(m_registry);
     m_feature->follow(status);
@@ -106,7 +106,7 @@ QString ViewerApplication::featureText() const
     if (!command) {
         throw std::runtime_error(tr("no plug-in offers to copy the features").toStdString());
     }
-    command->action()->trigger();
+    command->proxy()->trigger();
     return QGuiApplication::clipboard()->text();
 }
 
@@ -123,18 +123,27 @@ void ViewerApplication::makeServices()
     m_registry->registerService(m_pool);
     m_registry->registerService(m_window->menuService());
     m_registry->registerService(m_window->windowService());
-    const auto ids = Simulation::SourceCatalogue::ids();
-    for (const QString &id : ids) {
-        m_session->add(id);
-    }
+    m_session->addAll();
     m_catalogue->setWorkbenchOffered(true);
+}
+
+void ViewerApplication::loadPlugins(const QString &folder)
+{
+    const auto files = QDir(folder).entryInfoList(QDir::Files, QDir::Name);
+    if (files.isEmpty()) {
+        throw Host::PluginError(folder, tr("there is no plug-in in this folder."));
+    }
+    const QString language = LanguageHelper::loadLanguageId();
+    for (const QFileInfo &file : files) {
+        m_loader->load(file.canonicalFilePath(), language);
+    }
+    m_loader->start();
 }
 
 void ViewerApplication::openSources()
 {
-    const QStringList wanted = m_options.sources.isEmpty()
-        ? QStringList {Simulation::SourceCatalogue::ids().constFirst()}
-        : m_options.sources;
+    const QStringList wanted =
+        m_options.sources.isEmpty() ? QStringList {m_session->id(0)} : m_options.sources;
     for (const QString &id : wanted) {
         m_session->add(id);
         m_session->open(m_session->indexOf(id));

@@ -34,8 +34,8 @@ public:
     ~ViewerApplication() override;
 
     /// Starts everything that `options` ask for. `pluginFolder` holds the modules to load.
-    /// \throws std::exception with a one-line message: no plug-in, a foreign one, an unknown
-    /// source, pane or feature.
+    /// \throws std::exception or Core::Exception::BaseException with a one-line message: no
+    /// plug-in, a foreign one, an unknown source, pane or feature.
     void start(const QString &pluginFolder);
     /// Closes the sources, takes the plug-in down, and drops the services. Runs once.
     void shutDown();
@@ -52,6 +52,7 @@ Q_SIGNALS:
 
 private:
     void makeServices();
+    void loadPlugins(const QString &folder);
     void openSources();
     void applyPaneOptions();
     void startUnattendedWork();

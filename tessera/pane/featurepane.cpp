@@ -176,7 +176,7 @@ void CFeatureTreeWidget::attachCollection(FeatureTreeWidget *browser,
     }
 }
 
-void CFeatureTreeWidget::onParameterCollectionAttached(QString parameterPath)
+void CFeatureTreeWidget::onParameterCollectionAttached(const QString &parameterPath)
 {
     const auto *source = qobject_cast<IParameterCollection *>(sender());
     if (!source) {
@@ -230,7 +230,7 @@ void CFeatureTreeWidget::setCurrentBrowser(FeatureTreeWidget *browser)
     }
 }
 
-void CFeatureTreeWidget::connectBrowser(FeatureTreeWidget *browser)
+void CFeatureTreeWidget::connectBrowser(FeatureTreeWidget *browser) const
 {
     connect(browser, &FeatureTreeWidget::visibilityChanged, this,
             &CFeatureTreeWidget::visibilityChanged);
@@ -243,7 +243,7 @@ void CFeatureTreeWidget::connectBrowser(FeatureTreeWidget *browser)
             &CFeatureTreeWidget::onContextMenuRequested, Qt::UniqueConnection);
 }
 
-void CFeatureTreeWidget::disconnectBrowser(FeatureTreeWidget *browser)
+void CFeatureTreeWidget::disconnectBrowser(FeatureTreeWidget *browser) const
 {
     browser->disconnect(this);
 }

@@ -62,13 +62,13 @@ public Q_SLOTS:
     void onParameterSourceRegistered(Core::AppCoreComponents::BaseInfoPtr ptrInfo);
     void onParameterSourceUnregistered(Core::AppCoreComponents::BaseInfoPtr ptrInfo);
     /// To be called by the signal of a collection.
-    void onParameterCollectionAttached(QString parameterPath);
+    void onParameterCollectionAttached(const QString &parameterPath);
     void onFeatureTreeRefreshRequested();
 
 private Q_SLOTS:
     void onCopyCameraFeaturesTriggered();
 
-private:
+private: // NOLINT(readability-redundant-access-specifiers): ends the slots
     using BaseInfoPtr = Core::AppCoreComponents::BaseInfoPtr;
     using CollectionPtr = QSharedPointer<ParameterCollection::IParameterCollection>;
 
@@ -80,8 +80,8 @@ private:
                           const BaseInfoPtr &info, const QString &path);
     void removeSource(const BaseInfoPtr &info);
     void setCurrentBrowser(FeatureTreeWidget *browser);
-    void connectBrowser(FeatureTreeWidget *browser);
-    void disconnectBrowser(FeatureTreeWidget *browser);
+    void connectBrowser(FeatureTreeWidget *browser) const;
+    void disconnectBrowser(FeatureTreeWidget *browser) const;
     void showHint();
     void discard(FeatureTreeWidget *browser);
 

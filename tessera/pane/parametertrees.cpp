@@ -75,7 +75,7 @@ QString parameterTreeDisplayName(const QString &path)
 {
     const QString bare = withoutAt(path);
     const auto *known =
-        std::find_if(namedPaths.begin(), namedPaths.end(), [&](const NamedPath &candidate) {
+        std::find_if(namedPaths.begin(), namedPaths.end(), [&](NamedPath candidate) {
             return bare == QLatin1String(candidate.path + 1); // without its own "@"
         });
     return known == namedPaths.end() ? bare : QString::fromLatin1(known->displayName);

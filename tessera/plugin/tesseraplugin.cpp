@@ -60,6 +60,9 @@ CTesseraPlugin::~CTesseraPlugin()
     saveDisplayNameCache();
 }
 
+// clazy:excludeall=function-args-by-ref
+// The contract passes the registry by value.
+
 bool CTesseraPlugin::initialize(QWeakPointer<Core::Service::IServiceRegistry> registry)
 {
     m_registry = registry;
@@ -67,6 +70,7 @@ bool CTesseraPlugin::initialize(QWeakPointer<Core::Service::IServiceRegistry> re
     runGuarded([&] { succeeded = addToHost(); },
                [&](const CaughtException &e) {
                    delete m_allPane.data(); // its dock may not exist
+                   m_allPane.clear();
                    removePanes();
                    logException(e, QStringLiteral("adding Tessera to DockWidget"));
                });
@@ -132,6 +136,7 @@ void CTesseraPlugin::removePanes()
         removeDock(Core::CId(Ids::AllPane),
                    QStringLiteral("removing FeatureTreeWidgetAllSettings"));
         delete m_allPane.data(); // unless the host did
+        m_allPane.clear();
     }
 }
 

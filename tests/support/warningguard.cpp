@@ -79,7 +79,7 @@ QStringList WarningGuard::finish()
 {
     end();
     checkLog();
-    for (const QRegularExpression &expected : qAsConst(m_expectedWarnings)) {
+    for (const QRegularExpression &expected : m_expectedWarnings) {
         m_faults.append(QStringLiteral("Qt did not warn: ") + expected.pattern());
     }
     return m_faults;
@@ -96,13 +96,13 @@ void WarningGuard::expectLogEntry(Core::Logging::ELogLevel level, const QString 
 void WarningGuard::expectLogEntry(Core::Logging::ELogLevel level, const QString &category,
                                   const QRegularExpression &text)
 {
-    m_expectedEntries.append({level, category, text});
+    m_expectedEntries.push_back({level, category, text});
 }
 
 void WarningGuard::expectQtWarning(const QRegularExpression &text)
 {
     const QMutexLocker locker(&m_mutex);
-    m_expectedWarnings.append(text);
+    m_expectedWarnings.push_back(text);
 }
 
 void WarningGuard::handleMessage(QtMsgType type, const QMessageLogContext &context,
@@ -154,7 +154,7 @@ void WarningGuard::checkLog()
                             + describe(entry.level, entry.category, entry.text));
         }
     }
-    for (const ExpectedEntry &expected : qAsConst(m_expectedEntries)) {
+    for (const ExpectedEntry &expected : m_expectedEntries) {
         m_faults.append(QStringLiteral("Not logged: ")
                         + describe(expected.level, expected.category, expected.text.pattern()));
     }

@@ -9,7 +9,8 @@
 #include <QRegularExpression>
 #include <QString>
 #include <QStringList>
-#include <QVector>
+
+#include <vector>
 
 namespace Tests {
 
@@ -63,9 +64,9 @@ private:
 
     bool m_watching = false;
     QtMessageHandler m_previous = nullptr; // borrowed: the one that was there before
-    QVector<ExpectedEntry> m_expectedEntries;
+    std::vector<ExpectedEntry> m_expectedEntries;
     QMutex m_mutex; // guards the two below, which every thread may reach
-    QVector<QRegularExpression> m_expectedWarnings;
+    std::vector<QRegularExpression> m_expectedWarnings;
     QStringList m_faults;
 };
 

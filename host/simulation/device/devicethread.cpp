@@ -15,13 +15,18 @@ constexpr std::chrono::milliseconds pace {50};
 
 DeviceThread::DeviceThread(std::function<bool(int)> tick)
     : m_tick(std::move(tick))
+    , m_thread([this] { run(); })
 {
-    setObjectName(QStringLiteral("SimulatedDevice"));
 }
 
 DeviceThread::~DeviceThread()
 {
-    finish();
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isFinished = true;
+    }
+    m_condition.notify_one();
+    m_thread.join();
 }
 
 void DeviceThread::wake()
@@ -33,16 +38,6 @@ void DeviceThread::wake()
     m_condition.notify_one();
 }
 
-void DeviceThread::finish()
-{
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_isFinished = true;
-    }
-    m_condition.notify_one();
-    wait();
-}
-
 void DeviceThread::run()
 {
     using Clock = std::chrono::steady_clock;
@@ -50,9 +45,11 @@ void DeviceThread::run()
     std::unique_lock<std::mutex> lock(m_mutex);
     while (!m_isFinished) {
         m_isAwake = false;
+        // The device takes a lock of its own; holding both could stand still with `wake`.
         lock.unlock();
         const Clock::time_point now = Clock::now();
         const auto elapsed = std::chrono::duration_cast<std::chrono::milliseconds>(now - last);
+        // Not `now`: the part below a millisecond counts for the next round.
         last += elapsed;
         const bool isBusy = m_tick(static_cast<int>(elapsed.count()));
         lock.lock();

@@ -130,7 +130,7 @@ QString textOfValue(const FeatureDescription &feature, const Value &value)
     case ParameterType::Command:
         return QStringLiteral("0");
     default:
-        return QString();
+        return {};
     }
 }
 

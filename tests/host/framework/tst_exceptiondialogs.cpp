@@ -43,6 +43,7 @@ QList<QMessageBox *> openBoxes()
 {
     QList<QMessageBox *> result;
     const QWidgetList windows = QApplication::topLevelWidgets();
+    result.reserve(windows.size());
     for (QWidget *window : windows) {
         auto *box = qobject_cast<QMessageBox *>(window);
         if (box != nullptr && box->isVisible()) {
@@ -149,7 +150,8 @@ private Q_SLOTS:
         show(UnexpectedKind, second, nullptr);
         show(UnexpectedKind, first, nullptr);
         QCOMPARE(openBoxes().size(), 2);
-        for (QMessageBox *box : openBoxes()) {
+        const QList<QMessageBox *> boxes = openBoxes();
+        for (QMessageBox *box : boxes) {
             box->close();
         }
         QCOMPARE(openBoxes().size(), 0);

@@ -64,7 +64,8 @@ private Q_SLOTS:
     void keepsTheUsersChoice_data()
     {
         QTest::addColumn<QString>("code");
-        for (const Host::Language &language : LanguageChoice::languages()) {
+        const QVector<Host::Language> languages = LanguageChoice::languages();
+        for (const Host::Language &language : languages) {
             QTest::newRow(qPrintable(language.code)) << language.code;
             QVERIFY(!language.nativeName.isEmpty());
         }

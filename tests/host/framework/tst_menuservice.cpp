@@ -27,6 +27,7 @@ QStringList texts(const QMenu &menu)
 {
     QStringList result;
     const QList<QAction *> actions = menu.actions();
+    result.reserve(actions.size());
     for (const QAction *action : actions) {
         result.append(action->isSeparator() ? QStringLiteral("-") : action->text());
     }
@@ -119,34 +120,34 @@ private Q_SLOTS:
         QFETCH(QVector<bool>, enabled);
         QFETCH(int, triggered);
         QObject owner;
-        int seen = -1;
+        m_seen = -1;
         for (int i = 0; i < enabled.size(); ++i) {
             auto *action = new QAction(&owner);
-            connect(action, &QAction::triggered, this, [&seen, i] { seen = i; });
+            connect(action, &QAction::triggered, this, [this, i] { m_seen = i; });
             add(action, "test.many");
             action->setEnabled(enabled.at(i));
         }
         auto *command = dynamic_cast<Host::ActionCommand *>(m_service->command(CId("test.many")));
         QCOMPARE(command->actions().size(), enabled.size());
         command->proxy()->trigger();
-        QCOMPARE(seen, triggered);
+        QCOMPARE(m_seen, triggered);
     }
 
     void shortcutOfSixActionsWorksOnce()
     {
         QObject owner;
-        int count = 0;
+        m_seen = 0;
         for (int i = 0; i < 6; ++i) {
             auto *action = new QAction(QStringLiteral("Copy"), &owner);
             action->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+C")));
             action->setShortcutContext(Qt::ApplicationShortcut);
-            connect(action, &QAction::triggered, this, [&count] { ++count; });
+            connect(action, &QAction::triggered, this, [this] { ++m_seen; });
             add(action, "test.copy");
         }
         m_window->show();
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
         QTest::keyClick(m_window.get(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-        QCOMPARE(count, 1);
+        QCOMPARE(m_seen, 1);
     }
 
     void clickOnACheckableEntryTogglesActionAndEntryTogether()
@@ -283,6 +284,7 @@ private:
     Tests::WarningGuard m_guard;
     std::unique_ptr<QMainWindow> m_window;
     std::unique_ptr<Host::MenuService> m_service;
+    int m_seen = 0; // number or count of triggered actions
 };
 
 QTEST_MAIN(TestMenuService)

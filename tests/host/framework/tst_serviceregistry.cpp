@@ -27,6 +27,8 @@ namespace {
 // A collection without parameters.
 class EmptyCollection final : public IParameterCollection
 {
+    Q_OBJECT
+
 public:
     QSharedPointer<ParameterCollection::IParameter> parameter(const QString &) override
     {

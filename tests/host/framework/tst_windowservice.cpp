@@ -24,6 +24,8 @@ namespace {
 // A pane that notes what the service says of it when it is shown or hidden.
 class Pane final : public QWidget
 {
+    Q_OBJECT
+
 public:
     Pane(const Plugin::AppCore::IWindowService &service, const char *id)
         : m_service(service)

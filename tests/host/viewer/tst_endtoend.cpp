@@ -46,6 +46,7 @@ private Q_SLOTS:
     void showsTheCameraInTheAllPane();
     void writesWhatIsTyped_data();
     void writesWhatIsTyped();
+    void executesACommand();
     void refusedValueFallsBackToTheCamerasOwn();
     void showsWhatChangesInTheCamera();
     void switchesBetweenSources();
@@ -57,7 +58,7 @@ private:
     QTreeView *tree() const;
     QModelIndex shown(const QString &fullName) const;
     QString valueOnScreen(const QString &fullName) const;
-    QLineEdit *openEditor(const QString &fullName) const;
+    QWidget *openEditor(const QString &fullName) const;
     QSharedPointer<Simulation::SimulatedCollection> camera(const char *id) const;
 
     QTemporaryDir m_settings;
@@ -72,6 +73,8 @@ void EndToEndTest::init()
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
     m_viewer.reset(new ViewerApplication({}));
     m_viewer->start(QStringLiteral(PLUGIN_FOLDER));
+    // Without a window manager nobody else gives the window the focus.
+    m_viewer->window()->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_viewer->window()));
 }
 
@@ -127,13 +130,14 @@ QString EndToEndTest::valueOnScreen(const QString &fullName) const
     return shown(fullName).siblingAtColumn(1).data(Qt::EditRole).toString();
 }
 
-QLineEdit *EndToEndTest::openEditor(const QString &fullName) const
+QWidget *EndToEndTest::openEditor(const QString &fullName) const
 {
     const QModelIndex index = shown(fullName);
     const QPoint cell = tree()->visualRect(index.siblingAtColumn(1)).center();
     QTest::mouseClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier, cell);
     QTest::mouseDClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier, cell);
-    return qobject_cast<QLineEdit *>(QApplication::focusWidget());
+    QWidget *editor = QApplication::focusWidget();
+    return editor && tree()->viewport()->isAncestorOf(editor) ? editor : nullptr;
 }
 
 QSharedPointer<Simulation::SimulatedCollection> EndToEndTest::camera(const char *id) const
@@ -145,7 +149,7 @@ QSharedPointer<Simulation::SimulatedCollection> EndToEndTest::camera(const char 
 void EndToEndTest::showsTheCameraInTheAllPane()
 {
     QVERIFY(tree());
-    QCOMPARE(tree()->model()->index(0, 0).data().toString(), QStringLiteral("TO-5000G"));
+    QCOMPARE(tree()->model()->index(0, 0).data().toString(), QStringLiteral("TO-5000G (305174)"));
     QTRY_COMPARE(valueOnScreen(path("Width")),
                  camera("simulated:gige")->deviceValue(path("Width")).toString());
 }
@@ -161,7 +165,7 @@ void EndToEndTest::writesWhatIsTyped_data()
     QTest::newRow("address") << path("GevPersistentIPAddress") << QStringLiteral("10.0.0.7")
                              << QVariant(0x0A000007);
     QTest::newRow("float") << path("ExposureTime") << QStringLiteral("1234") << QVariant(1234.0);
-    QTest::newRow("boolean") << path("ReverseX") << QStringLiteral("1") << QVariant(true);
+    QTest::newRow("boolean") << path("ReverseX") << QStringLiteral(" ") << QVariant(true);
     QTest::newRow("enumeration") << path("TriggerMode") << QStringLiteral("On")
                                  << QVariant(QStringLiteral("On"));
     QTest::newRow("string") << path("DeviceUserID") << QStringLiteral("Halle 7")
@@ -174,12 +178,28 @@ void EndToEndTest::writesWhatIsTyped()
     QFETCH(QString, typed);
     QFETCH(QVariant, expected);
     QTRY_VERIFY(!valueOnScreen(feature).isNull() || feature == path("ReverseX"));
-    QLineEdit *editor = openEditor(feature);
+    QWidget *editor = openEditor(feature);
     QVERIFY(editor);
-    QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+    if (qobject_cast<QLineEdit *>(editor)) {
+        QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+    }
     QTest::keyClicks(editor, typed);
     QTest::keyClick(editor, Qt::Key_Return);
     QTRY_COMPARE(camera("simulated:gige")->deviceValue(feature), expected);
+}
+
+void EndToEndTest::executesACommand()
+{
+    QTRY_VERIFY(shown(path("AcquisitionStart")).isValid());
+    QLineEdit *editor = openEditor(path("AcquisitionStart"));
+    QVERIFY(editor);
+    QTest::keyClicks(editor, QStringLiteral("go"));
+    QTest::keyClick(editor, Qt::Key_Return);
+    // A camera that runs locks its image format.
+    QTRY_COMPARE(camera("simulated:gige")->deviceValue(path("TLParamsLocked")), QVariant(1));
+    const QModelIndex width = shown(path("Width")).siblingAtColumn(1);
+    QTRY_VERIFY(width.data(Qt::ForegroundRole).isValid()); // greyed out
+    QVERIFY(!openEditor(path("Width")));
 }
 
 void EndToEndTest::refusedValueFallsBackToTheCamerasOwn()
@@ -190,11 +210,12 @@ void EndToEndTest::refusedValueFallsBackToTheCamerasOwn()
     m_guard.expectLogEntry(Core::Logging::ELogLevel::Fault,
                            QStringLiteral("vantrel.viewer.plugins.tessera.featureTreeModel"),
                            QRegularExpression(QStringLiteral("Failed to set a feature value")));
-    QLineEdit *editor = openEditor(feature);
+    const QPointer<QWidget> editor = openEditor(feature);
     QVERIFY(editor);
     QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(editor, QStringLiteral("99999999"));
     QTest::keyClick(editor, Qt::Key_Return);
+    QTRY_VERIFY(!editor); // committed and closed from the event loop
     QTRY_COMPARE(valueOnScreen(feature), before);
     QCOMPARE(camera("simulated:gige")->deviceValue(feature).toString(), before);
 }
@@ -213,10 +234,10 @@ void EndToEndTest::switchesBetweenSources()
     const int usb = session->indexOf(QStringLiteral("simulated:usb"));
     session->requestOpen(usb);
     QTRY_COMPARE(session->activeIndex(), usb);
-    QCOMPARE(tree()->model()->index(0, 0).data().toString(), QStringLiteral("TO-5000U"));
+    QCOMPARE(tree()->model()->index(0, 0).data().toString(), QStringLiteral("TO-5000U (305179)"));
     session->requestClose(usb);
     QTRY_VERIFY(!session->isOpen(usb));
-    QCOMPARE(tree()->model()->index(0, 0).data().toString(), QStringLiteral("TO-5000G"));
+    QCOMPARE(tree()->model()->index(0, 0).data().toString(), QStringLiteral("TO-5000G (305174)"));
     session->requestClose(session->activeIndex());
     QTRY_COMPARE(session->activeIndex(), -1);
     QVERIFY(!tree());
@@ -225,7 +246,7 @@ void EndToEndTest::switchesBetweenSources()
 void EndToEndTest::unpluggingUnderAnOpenEditorIsSurvived()
 {
     QTRY_VERIFY(!valueOnScreen(path("Width")).isEmpty());
-    QPointer<QLineEdit> editor = openEditor(path("Width"));
+    QPointer<QWidget> editor = openEditor(path("Width"));
     QVERIFY(editor);
     QTest::keyClicks(editor, QStringLiteral("64"));
     camera("simulated:gige")->unplug();
@@ -254,7 +275,7 @@ void EndToEndTest::copiesTheFeaturesAsText()
     QGuiApplication::clipboard()->clear();
     QTest::keyClick(m_viewer->window(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     const QStringList lines = QGuiApplication::clipboard()->text().split(QLatin1Char('\n'));
-    QCOMPARE(lines.constFirst(), QStringLiteral("TO-5000G"));
+    QCOMPARE(lines.constFirst(), QStringLiteral("TO-5000G (305174)"));
     QVERIFY(lines.size() > 250);
     const QString width =
         QStringLiteral("\t") + camera("simulated:gige")->deviceValue(path("Width")).toString();

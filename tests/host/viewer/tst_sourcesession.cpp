@@ -8,6 +8,7 @@
 #include <host/simulation/simulatedsource.h>
 #include <host/viewer/sourcemodel.h>
 #include <host/viewer/sourcesession.h>
+#include <plugin/contract/core/baseexception.h>
 #include <plugin/contract/viewer/featuretreecontrolservice.h>
 
 #include <QAbstractItemModelTester>
@@ -115,7 +116,7 @@ void SourceSessionTest::refusesAnUnknownSource()
     try {
         m_session->add(QStringLiteral("simulated:toaster"));
         QFAIL("the source was taken");
-    } catch (const std::exception &e) {
+    } catch (const Core::Exception::BaseException &e) {
         QVERIFY(QString::fromUtf8(e.what()).contains(QStringLiteral("simulated:toaster")));
     }
     QCOMPARE(m_session->count(), 2);

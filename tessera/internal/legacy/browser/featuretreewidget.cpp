@@ -4,9 +4,9 @@
 #include "featuretreewidget.h"
 
 #include "featuretext.h"
+#include "plainvaluedelegate.h"
 #include "shownrows.h"
 
-#include "internal/legacy/tree/featuretreedelegate.h"
 #include "internal/legacy/tree/featuretreeinodeitem.h"
 #include "internal/legacy/tree/featuretreemodel.h"
 #include "plugin/constants/objectnames.h"
@@ -44,7 +44,7 @@ FeatureTreeWidget::FeatureTreeWidget(QString filterSubPath,
     m_treeView->setEditTriggers(QAbstractItemView::DoubleClicked
                                 | QAbstractItemView::EditKeyPressed);
     m_treeView->setUniformRowHeights(true);
-    m_treeView->setItemDelegate(new FeatureTreeDelegate(m_treeView, m_model));
+    m_treeView->setItemDelegate(new PlainValueDelegate(m_treeView, m_model));
     attachView();
     m_treeView->header()->setSectionResizeMode(QHeaderView::Stretch);
     m_shownRows = new ShownRows(m_treeView, m_model, this);
@@ -58,7 +58,7 @@ void FeatureTreeWidget::attachView()
 {
     m_treeView->setModel(m_model);
     connect(m_treeView->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            qOverload<QModelIndex>(&FeatureTreeWidget::onCurrentChanged));
+            qOverload<const QModelIndex &>(&FeatureTreeWidget::onCurrentChanged));
 }
 
 QSize FeatureTreeWidget::sizeHint() const
@@ -68,7 +68,7 @@ QSize FeatureTreeWidget::sizeHint() const
 
 void FeatureTreeWidget::addParameterCollection(
     QSharedPointer<ParameterCollection::IParameterCollection> pParameterCollection,
-    QString rootName, QString roleName, bool isUtf8)
+    const QString &rootName, const QString &roleName, bool isUtf8)
 {
     m_model->addParameterCollection(pParameterCollection, rootName, roleName, isUtf8);
     m_model->refreshAll();
@@ -118,7 +118,7 @@ FeatureTreeItem *FeatureTreeWidget::currentItem() const
     return m_model->itemFromIndex(m_treeView->currentIndex());
 }
 
-void FeatureTreeWidget::onCurrentChanged(QModelIndex current)
+void FeatureTreeWidget::onCurrentChanged(const QModelIndex &current)
 {
     const FeatureTreeItem *item = m_model->itemFromIndex(current);
     if (!item) {

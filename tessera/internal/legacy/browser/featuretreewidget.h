@@ -45,7 +45,8 @@ Q_SIGNALS:
     /// A visibility level was taken.
     void visibilityChanged(GenApi::EVisibility visibility);
     /// The current parameter; null for none.
-    void onCurrentChanged(QSharedPointer<ParameterCollection::IParameter> parameter);
+    void onCurrentChanged( // clazy:exclude=overloaded-signal
+        QSharedPointer<ParameterCollection::IParameter> parameter);
     /// A text for the status area.
     void onNewText(QString str);
 
@@ -54,20 +55,20 @@ public Q_SLOTS:
     /// `isUtf8` tells how texts are written to it.
     void addParameterCollection(
         QSharedPointer<ParameterCollection::IParameterCollection> pParameterCollection,
-        QString rootName, QString roleName, bool isUtf8);
+        const QString &rootName, const QString &roleName, bool isUtf8);
     /// Puts all features with their values on the clipboard, as text.
     void copyToClipboard();
     /// Removes all rows.
     void clear();
     /// Opens all categories.
     void expandTree();
-    void onCurrentChanged(QModelIndex current);
+    void onCurrentChanged(const QModelIndex &current);
 
 private Q_SLOTS:
     void onVisibilityChanged(int value);
     void contextualMenu(QPoint point);
 
-private:
+private: // NOLINT(readability-redundant-access-specifiers): ends the slots
     void attachView();
 
     QString m_filterSubPath;

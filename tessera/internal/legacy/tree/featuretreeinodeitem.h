@@ -71,7 +71,7 @@ private Q_SLOTS:
     void onParameterDataChanged(
         QSharedPointer<const ParameterCollection::ParameterData> ptrParameterData);
 
-private:
+private: // NOLINT(readability-redundant-access-specifiers): ends the slots
     void loadValues();
     void readProperties();
     bool isUsable() const;

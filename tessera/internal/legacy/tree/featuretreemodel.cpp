@@ -6,6 +6,7 @@
 #include "featuretreeinodeitem.h"
 #include "featuretreeloader.h"
 #include "featuretreemarking.h"
+#include "nameditems.h"
 
 #include "plugin/constants/logcategories.h"
 #include "plugin/constants/mimetypes.h"
@@ -29,26 +30,6 @@ void logFault(int line, const QString &text)
         Core::Logging::getCatId(Plugin::Tessera::LogCategories::TreeModel);
     Core::Logging::createLogEntry(Core::Logging::ELogLevel::Fault, category,
                                   QStringLiteral("featuretreemodel %1 %2").arg(line).arg(text));
-}
-
-QVector<FeatureTreeItem *> loadedChildren(FeatureTreeItem *item)
-{
-    QVector<FeatureTreeItem *> children;
-    for (int row = 0; FeatureTreeItem *child = item->child(row); ++row) {
-        children.append(child);
-    }
-    return children;
-}
-
-void collectNamed(FeatureTreeItem *item, QStringList &names, QList<FeatureTreeItem *> &found)
-{
-    if (names.removeOne(item->fullName())) {
-        found.append(item);
-    }
-    const int count = names.isEmpty() ? 0 : item->childCount();
-    for (int row = 0; row < count && !names.isEmpty(); ++row) {
-        collectNamed(item->child(row), names, found);
-    }
 }
 
 void invalidate(const IParameter &parameter)
@@ -333,8 +314,7 @@ void FeatureTreeModel::refreshAll()
 
 void FeatureTreeModel::announce(FeatureTreeItem *item, int levels)
 {
-    const QVector<FeatureTreeItem *> children = loadedChildren(item);
-    for (FeatureTreeItem *child : children) {
+    for (int row = 0; FeatureTreeItem *child = item->child(row); ++row) {
         const QModelIndex index = createItemIndex(child, 0);
         Q_EMIT dataChanged(index, index);
         if (levels > 1) {
@@ -371,19 +351,13 @@ QModelIndex FeatureTreeModel::indexOfRoleValue(int role, const QVariant &value,
 
 QList<FeatureTreeItem *> FeatureTreeModel::itemsForNames(QStringList &names)
 {
-    QList<FeatureTreeItem *> found;
-    const QVector<FeatureTreeItem *> tops = loadedChildren(m_rootItem.get());
-    for (FeatureTreeItem *top : tops) {
-        collectNamed(top, names, found);
-    }
-    return found;
+    return takeNamedItems(*m_rootItem, names);
 }
 
 void FeatureTreeModel::markFavorites(const QStringList &names)
 {
     const FavoriteNames favorites(names);
-    const QVector<FeatureTreeItem *> tops = loadedChildren(m_rootItem.get());
-    for (FeatureTreeItem *top : tops) {
+    for (int row = 0; FeatureTreeItem *top = m_rootItem->child(row); ++row) {
         ::markFavorites(*top, favorites);
     }
 }
@@ -396,8 +370,7 @@ bool FeatureTreeModel::markFavoritesBelow(FeatureTreeItem *item, const QStringLi
 void FeatureTreeModel::markSearchMatches(const QString &text)
 {
     const QString trimmed = text.trimmed();
-    const QVector<FeatureTreeItem *> tops = loadedChildren(m_rootItem.get());
-    for (FeatureTreeItem *top : tops) {
+    for (int row = 0; FeatureTreeItem *top = m_rootItem->child(row); ++row) {
         ::markSearchMatches(*top, trimmed);
     }
 }

@@ -81,7 +81,7 @@ public:
     bool markFavoritesBelow(FeatureTreeItem *item, const QStringList &names) override;
     bool markSearchBelow(FeatureTreeItem *item, const QString &text) override;
 
-public Q_SLOTS:
+public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): for moc
     void clear() override;
     void onNodeUpdated(int row, FeatureTreeINodeItem *pItem) override;
     void onTimerPoll() override;

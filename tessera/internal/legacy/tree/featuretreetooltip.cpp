@@ -31,7 +31,7 @@ QString toolTipContext(const QString &fullName)
     }};
     const QString component =
         fullName.mid(1).section(QLatin1Char('/'), 0, 0, QString::SectionSkipEmpty);
-    const auto *tree = std::find_if(trees.begin(), trees.end(), [&](const Tree &candidate) {
+    const auto *tree = std::find_if(trees.begin(), trees.end(), [&](Tree candidate) {
         return component == QLatin1String(candidate.component);
     });
     return QString::fromLatin1(tree == trees.end() ? "Invalid" : tree->context);

@@ -26,13 +26,11 @@ CId CId::withSuffix(const char *suffix) const
     return result;
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): the contract passes ids by value here
 bool CId::operator==(CId other) const
 {
     return m_text == other.m_text;
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): the contract passes ids by value here
 bool CId::operator!=(CId other) const
 {
     return m_text != other.m_text;

@@ -14,7 +14,7 @@ IDeviceBaseInfo::~IDeviceBaseInfo() = default;
 
 QString IDeviceBaseInfo::reservedPlace3() const
 {
-    return QString();
+    return {};
 }
 
 } // namespace Core::CameraPoolComponents

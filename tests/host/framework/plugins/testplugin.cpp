@@ -12,15 +12,6 @@
 
 namespace {
 
-class OwnService final : public Core::Service::IService
-{
-public:
-    OwnService()
-        : IService(nullptr)
-    {
-    }
-};
-
 void log(const QString &text)
 {
     Core::Logging::createLogEntry(Core::Logging::ELogLevel::Information,
@@ -53,7 +44,8 @@ bool TestPlugin::setLanguage(const QString &language)
 bool TestPlugin::initialize(QWeakPointer<Core::Service::IServiceRegistry> registry)
 {
     log(QStringLiteral("initialize"));
-    registry.toStrongRef()->registerService(QSharedPointer<OwnService>::create());
+    registry.toStrongRef()->registerService(
+        QSharedPointer<Core::Service::IService>::create(nullptr));
     if (behaves("initialize throws")) {
         throw GenICam::InvalidArgumentException("no device", __FILE__, __LINE__);
     }

@@ -72,6 +72,8 @@ public:
 
 class IntegerStandIn final : public Unplugged<IIntegerParameter>
 {
+    Q_OBJECT
+
 public:
     void setValue(qint64, bool) override
     {
@@ -84,6 +86,8 @@ public:
 
 class FloatStandIn final : public Unplugged<IFloatParameter>
 {
+    Q_OBJECT
+
 public:
     void setValue(double, bool) override
     {
@@ -104,6 +108,8 @@ public:
 
 class CommandStandIn final : public Unplugged<ICommandParameter>
 {
+    Q_OBJECT
+
 public:
     void execute(bool) override
     {
@@ -148,3 +154,5 @@ extern "C" Q_DECL_EXPORT void throwException(int kind)
         throw kind;
     }
 }
+
+#include "contractmodule.moc"
