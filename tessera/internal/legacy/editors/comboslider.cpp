@@ -3,6 +3,7 @@
 
 #include "comboslider.h"
 
+#include "cellslider.h"
 #include "editorlog.h"
 #include "integergrid.h"
 #include "rangetext.h"
@@ -13,7 +14,6 @@
 #include "plugin/services/exceptionbarrier.h"
 
 #include <QScopedValueRollback>
-#include <QSlider>
 
 namespace {
 
@@ -24,7 +24,7 @@ EditorLog editorLog(Plugin::Tessera::LogCategories::ComboSlider);
 ComboSlider::ComboSlider(QWidget *parent)
     : QWidget(parent)
     , m_spinBox(new VantrelQtSpinBox)
-    , m_slider(new QSlider(Qt::Horizontal))
+    , m_slider(new CellSlider)
 {
     m_editBoxWidth = layOutSlider(this, m_spinBox, m_slider);
     connect(m_slider, &QSlider::valueChanged, this, &ComboSlider::onSliderValueChanged);

@@ -3,19 +3,18 @@
 
 #include "doublecomboslider.h"
 
+#include "cellslider.h"
 #include "floattext.h"
 #include "integergrid.h"
 #include "sliderlayout.h"
 #include "spinboxeventcatcher.h"
 #include "vantrelqtdoublespinbox.h"
 
-#include <QSlider>
-
 #include <limits>
 
 DoubleComboSlider::DoubleComboSlider(QWidget *parent)
     : QWidget(parent)
-    , m_slider(new QSlider(Qt::Horizontal))
+    , m_slider(new CellSlider)
     , m_spinBox(new VantrelQtDoubleSpinBox)
     , m_eventCatcher(new SpinBoxEventCatcher)
 {

@@ -7,7 +7,6 @@
 #include "rangetext.h"
 #include "spinboxeventcatcher.h"
 #include "vantrelqtdoublespinbox.h"
-#include "wheelfocusfilter.h"
 
 #include <QHBoxLayout>
 
@@ -30,8 +29,8 @@ DoubleSpinBox::DoubleSpinBox(QWidget *parent, const QString &representation)
     connect(m_eventCatcher, &SpinBoxEventCatcher::focusEvent, this,
             &DoubleSpinBox::onSpinBoxFocusEventTriggered);
     layout->addWidget(m_spinBox);
+    setFocusPolicy(Qt::StrongFocus);
     setFocusProxy(m_spinBox);
-    (new WheelFocusFilter(this))->watch(m_spinBox);
 }
 
 DoubleSpinBox::~DoubleSpinBox()

@@ -5,14 +5,14 @@
 
 #include "editorlog.h"
 #include "snapshots.h"
-#include "wheelfocusfilter.h"
+#include "wheelfocus.h"
 
 #include "plugin/constants/logcategories.h"
 #include "plugin/contract/parametercollection/enumparameterdata.h"
 #include "plugin/services/exceptionbarrier.h"
 
 #include <QAbstractItemView>
-#include <QEvent>
+#include <QWheelEvent>
 
 using namespace ParameterCollection;
 
@@ -35,7 +35,7 @@ EnumEditor::EnumEditor(QWidget *parent)
     setEditable(false);
     setStyleSheet(QStringLiteral("margin-left:1px; margin-right:1px; margin-top:1px; "
                                  "margin-bottom:1px; padding-left: 4px;"));
-    new WheelFocusFilter(this);
+    setFocusPolicy(Qt::StrongFocus);
 }
 
 EnumEditor::~EnumEditor()
@@ -91,6 +91,15 @@ bool EnumEditor::eventFilter(QObject *watched, QEvent *event)
         return true;
     }
     return QComboBox::eventFilter(watched, event);
+}
+
+void EnumEditor::wheelEvent(QWheelEvent *event)
+{
+    if (takesWheel(*this)) {
+        QComboBox::wheelEvent(event);
+    } else {
+        event->ignore();
+    }
 }
 
 bool EnumEditor::showsEntriesOf(const EnumParameterData &snapshot) const

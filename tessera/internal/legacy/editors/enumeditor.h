@@ -29,6 +29,9 @@ public:
     void showPopup() override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+protected:
+    void wheelEvent(QWheelEvent *event) override;
+
 private:
     bool showsEntriesOf(const ParameterCollection::EnumParameterData &snapshot) const;
     void showEntriesOf(const ParameterCollection::EnumParameterData &snapshot);

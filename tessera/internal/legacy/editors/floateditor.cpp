@@ -39,6 +39,8 @@ FloatEditor::FloatEditor(QWidget *parent, const QString &representation)
             &FloatEditor::onSpinBoxEditingFinished);
     connect(spinBox(), &VantrelQtDoubleSpinBox::stepTriggered, this,
             &FloatEditor::onSpinBoxStepTriggered);
+    connect(spinBox(), &VantrelQtDoubleSpinBox::stepTriggered, this, &FloatEditor::showAnswerToStep,
+            Qt::QueuedConnection);
     connect(spinBox(), &VantrelQtDoubleSpinBox::textEdited, this, [this] { m_edited = true; });
 }
 
@@ -141,6 +143,17 @@ void FloatEditor::showSnapshot(const QSharedPointer<IParameter> &parameter,
     if (changed || snapshot.value != clampToNode(spinBox()->value())) {
         setValue(snapshot.value);
     }
+}
+
+// Where steps come faster than their answers, the answer to the first uses up the gate.
+void FloatEditor::showAnswerToStep()
+{
+    Plugin::Tessera::runGuarded([&] {
+        if (m_floatParameter && spinBox()->missesAnswer(m_floatParameter->value())) {
+            enableUpdate(true);
+            m_floatParameter->refresh(true);
+        }
+    });
 }
 
 double FloatEditor::clampToNode(double value) const

@@ -40,6 +40,7 @@ private:
     bool attachParameter(const QSharedPointer<ParameterCollection::IParameter> &parameter);
     void showSnapshot(const QSharedPointer<ParameterCollection::IParameter> &parameter,
                       const ParameterCollection::FloatParameterData &snapshot);
+    void showAnswerToStep();
     double clampToNode(double value) const;
     double stepTarget(int steps) const;
 

@@ -285,13 +285,15 @@ void FloatSliderEditor::showAlias(const IntegerParameterData &snapshot)
     }
 }
 
-// A logarithmic step shows its whole number at once, over an answer that came while it was written.
-// The gate is open: asked again, the device corrects the box.
+// A logarithmic step shows its whole number over an answer that came while it was written.
 void FloatSliderEditor::showAnswerToStep()
 {
-    if (m_floatParameter && isLogarithmic()) {
-        Plugin::Tessera::runGuarded([&] { m_floatParameter->refresh(true); });
-    }
+    Plugin::Tessera::runGuarded([&] {
+        if (m_floatParameter && spinBox()->missesAnswer(m_floatParameter->value())) {
+            enableUpdate(true);
+            m_floatParameter->refresh(true);
+        }
+    });
 }
 
 double FloatSliderEditor::clampToNode(double value) const

@@ -34,6 +34,10 @@ void LogarithmicScale::setMaximum(int maximum)
 
 double LogarithmicScale::valueAt(double position) const
 {
+    // Rounding must not keep the slider's end from the last value.
+    if (position >= sliderMaximum) {
+        return static_cast<double>(m_maximum);
+    }
     const double value =
         std::exp2((position - sliderMinimum) * m_log2PerSliderStep + m_log2Minimum);
     const auto minimum = static_cast<double>(m_minimum);

@@ -3,8 +3,6 @@
 
 #include "sliderlayout.h"
 
-#include "wheelfocusfilter.h"
-
 #include <QAbstractSpinBox>
 #include <QHBoxLayout>
 #include <QSlider>
@@ -41,9 +39,7 @@ int layOutSlider(QWidget *editor, QAbstractSpinBox *spinBox, QSlider *slider)
     layout->addWidget(slider);
     layout->addSpacing(4);
 
+    editor->setFocusPolicy(Qt::StrongFocus);
     editor->setFocusProxy(spinBox);
-    auto *wheelFilter = new WheelFocusFilter(editor);
-    wheelFilter->watch(spinBox);
-    wheelFilter->watch(slider);
     return width;
 }

@@ -10,7 +10,7 @@ bool isUndoKey(const QKeyEvent &event)
 
 QKeyEvent undoKeyPress()
 {
-    return QKeyEvent(QEvent::KeyPress, Qt::Key_Z, Qt::ControlModifier, QString(), false, 1);
+    return {QEvent::KeyPress, Qt::Key_Z, Qt::ControlModifier, QString(), false, 1};
 }
 
 bool isFinishKey(const QKeyEvent &event)

@@ -60,10 +60,9 @@ Q_SIGNALS:
     /// The integer for the slider's new position.
     void valueChanged(int value);
 
-protected:
+private:
     bool isLogarithmic() const;
 
-private:
     ETwoModeDoubleComboSliderMode m_mode;
     LogarithmicScale m_scale;
     // Position and integer do not determine each other: what was put in comes out unchanged.

@@ -5,13 +5,16 @@
 
 #include "floattext.h"
 #include "spinboxkeys.h"
+#include "wheelfocus.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QWheelEvent>
 
 VantrelQtDoubleSpinBox::VantrelQtDoubleSpinBox(QWidget *parent)
     : QDoubleSpinBox(parent)
 {
+    setFocusPolicy(Qt::StrongFocus);
     connect(lineEdit(), &QLineEdit::textEdited, this, &VantrelQtDoubleSpinBox::textEdited);
 }
 
@@ -25,6 +28,11 @@ double VantrelQtDoubleSpinBox::pageStep() const
 void VantrelQtDoubleSpinBox::setPageStep(double step)
 {
     m_pageStep = step;
+}
+
+bool VantrelQtDoubleSpinBox::missesAnswer(double value) const
+{
+    return !lineEdit()->isModified() && text() != textFromValue(value);
 }
 
 void VantrelQtDoubleSpinBox::stepBy(int steps)
@@ -46,5 +54,14 @@ void VantrelQtDoubleSpinBox::keyPressEvent(QKeyEvent *event)
         QDoubleSpinBox::keyPressEvent(&undo);
     } else if (isFinishKey(*event)) {
         event->accept();
+    }
+}
+
+void VantrelQtDoubleSpinBox::wheelEvent(QWheelEvent *event)
+{
+    if (takesWheel(*this)) {
+        QDoubleSpinBox::wheelEvent(event);
+    } else {
+        event->ignore();
     }
 }

@@ -18,6 +18,9 @@ public:
     double pageStep() const;
     void setPageStep(double step);
 
+    /// True when something else than `value` is shown and the user has not typed it.
+    bool missesAnswer(double value) const;
+
     /// Changes nothing but emits `stepTriggered`.
     void stepBy(int steps) override;
     /// With the box's decimals, without trailing zeros and group separators.
@@ -32,6 +35,7 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
 
 private:
     double m_pageStep = 0.0;

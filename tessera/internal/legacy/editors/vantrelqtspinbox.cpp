@@ -4,12 +4,15 @@
 #include "vantrelqtspinbox.h"
 
 #include "spinboxkeys.h"
+#include "wheelfocus.h"
 
 #include <QKeyEvent>
+#include <QWheelEvent>
 
 VantrelQtSpinBox::VantrelQtSpinBox(QWidget *parent)
     : QSpinBox(parent)
 {
+    setFocusPolicy(Qt::StrongFocus);
 }
 
 VantrelQtSpinBox::~VantrelQtSpinBox() = default;
@@ -46,5 +49,14 @@ void VantrelQtSpinBox::keyPressEvent(QKeyEvent *event)
         QSpinBox::keyPressEvent(&undo);
     } else if (isFinishKey(*event)) {
         event->accept();
+    }
+}
+
+void VantrelQtSpinBox::wheelEvent(QWheelEvent *event)
+{
+    if (takesWheel(*this)) {
+        QSpinBox::wheelEvent(event);
+    } else {
+        event->ignore();
     }
 }

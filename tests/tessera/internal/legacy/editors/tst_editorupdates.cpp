@@ -76,6 +76,7 @@ private Q_SLOTS:
     void init()
     {
         m_guard.begin();
+        m_camera = std::make_unique<EditorCamera>();
     }
 
     void cleanup()
@@ -106,7 +107,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, name);
         QFETCH(QSharedPointer<const ParameterData>, snapshot);
-        const EditorCamera camera;
+        const EditorCamera &camera = *m_camera;
         const std::unique_ptr<QWidget> editor(makeEditor(camera, name));
         const std::function<void()> update = updater(camera, name, snapshot, editor.get());
         editor->show();
@@ -180,6 +181,7 @@ private:
     }
 
     Tests::WarningGuard m_guard;
+    std::unique_ptr<EditorCamera> m_camera;
 };
 
 QTEST_MAIN(TestEditorUpdates)
