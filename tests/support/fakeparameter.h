@@ -125,7 +125,8 @@ public:
 };
 
 template<>
-class FakeParameter<ParameterCollection::IIntegerParameter> final
+class FakeParameter<ParameterCollection::IIntegerParameter>
+    final // clazy:exclude=missing-qobject-macro
     : public FakeParameterBase<ParameterCollection::IIntegerParameter>
 {
 public:
@@ -143,7 +144,8 @@ public:
 };
 
 template<>
-class FakeParameter<ParameterCollection::IFloatParameter> final
+class FakeParameter<ParameterCollection::IFloatParameter>
+    final // clazy:exclude=missing-qobject-macro
     : public FakeParameterBase<ParameterCollection::IFloatParameter>
 {
 public:
@@ -169,7 +171,8 @@ public:
 };
 
 template<>
-class FakeParameter<ParameterCollection::ICommandParameter> final
+class FakeParameter<ParameterCollection::ICommandParameter>
+    final // clazy:exclude=missing-qobject-macro
     : public FakeParameterBase<ParameterCollection::ICommandParameter>
 {
 public:

@@ -90,13 +90,14 @@ void FloatEditor::onSpinBoxEditingFinished()
 
 void FloatEditor::onSpinBoxStepTriggered(int steps)
 {
-    if (increment() == 0.0 || !m_floatParameter) {
+    const QSharedPointer<IFloatParameter> parameter = m_floatParameter; // a write may take it away
+    if (increment() == 0.0 || !parameter) {
         return;
     }
     Plugin::Tessera::runGuarded([&] {
         const double target = stepTarget(steps);
         enableUpdate(true);
-        m_floatParameter->setValue(clampToNode(target));
+        parameter->setValue(clampToNode(target));
     });
 }
 

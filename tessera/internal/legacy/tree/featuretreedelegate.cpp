@@ -9,6 +9,7 @@
 #include "itemeditortable.h"
 
 #include "internal/legacy/editors/abstractitemeditor.h"
+#include "internal/legacy/editors/inteditor.h"
 #include "plugin/constants/logcategories.h"
 #include "plugin/contract/core/logging.h"
 #include "plugin/contract/viewer/stylehelper.h"
@@ -160,6 +161,10 @@ void FeatureTreeDelegate::setModelData(QWidget *editor, QAbstractItemModel *mode
 void FeatureTreeDelegate::writeValue(QWidget *editor, QAbstractItemModel *model,
                                      const QModelIndex &index) const
 {
+    const auto *integerEditor = qobject_cast<IntEditor *>(editor);
+    if (integerEditor && integerEditor->showsNotReadable()) {
+        return; // a text in place of the value is none
+    }
     const auto *itemEditor = dynamic_cast<AbstractItemEditor *>(editor);
     if (index.column() == 1 && itemEditor) {
         model->setData(index, itemEditor->editorValue(), Qt::EditRole);

@@ -15,6 +15,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPointer>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
@@ -39,6 +40,7 @@ private Q_SLOTS:
     void logsWhatThePropertiesThrow();
     void writesWhatTheUserDoes_data();
     void writesWhatTheUserDoes();
+    void writesNoTextThatStandsForAValue();
     void leavesATextAloneThatIsBeingTyped();
     void showsASnapshotInAnEditorThatDecidesForItself();
     void keepsAnEditorThatClosesInsideItsCommit();
@@ -209,6 +211,23 @@ void tst_FeatureTreeDelegate::writesWhatTheUserDoes()
     QTest::keyClick(focus, Qt::Key_Return);
     QCOMPARE(node().executions, editor->inherits("ToolButtonEditor") ? 1 : 0);
     QTRY_COMPARE(node().valueText(), value);
+}
+
+void tst_FeatureTreeDelegate::writesNoTextThatStandsForAValue()
+{
+    add(QStringLiteral("F Integer 4 rep=HexNumber"));
+    node().isReadable = false;
+    node().publish();
+    QPointer<QWidget> editor = open();
+    QVERIFY(editor);
+    QTest::keyClick(editor, Qt::Key_Return);
+    QTRY_VERIFY(!editor);
+    QCOMPARE(node().writes, QStringList());
+    editor = open();
+    QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(editor, QStringLiteral("9"));
+    QTest::keyClick(editor, Qt::Key_Return);
+    QTRY_COMPARE(node().writes, QStringList {QStringLiteral("9")});
 }
 
 void tst_FeatureTreeDelegate::leavesATextAloneThatIsBeingTyped()
