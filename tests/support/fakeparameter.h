@@ -3,6 +3,8 @@
 
 #pragma once
 
+// Templates have no meta object of their own. clazy:excludeall=missing-qobject-macro
+
 #include "plugin/contract/parametercollection/booleanparameter.h"
 #include "plugin/contract/parametercollection/commandparameter.h"
 #include "plugin/contract/parametercollection/enumparameter.h"
@@ -125,8 +127,7 @@ public:
 };
 
 template<>
-class FakeParameter<ParameterCollection::IIntegerParameter>
-    final // clazy:exclude=missing-qobject-macro
+class FakeParameter<ParameterCollection::IIntegerParameter> final
     : public FakeParameterBase<ParameterCollection::IIntegerParameter>
 {
 public:
@@ -144,8 +145,7 @@ public:
 };
 
 template<>
-class FakeParameter<ParameterCollection::IFloatParameter>
-    final // clazy:exclude=missing-qobject-macro
+class FakeParameter<ParameterCollection::IFloatParameter> final
     : public FakeParameterBase<ParameterCollection::IFloatParameter>
 {
 public:
@@ -171,8 +171,7 @@ public:
 };
 
 template<>
-class FakeParameter<ParameterCollection::ICommandParameter>
-    final // clazy:exclude=missing-qobject-macro
+class FakeParameter<ParameterCollection::ICommandParameter> final
     : public FakeParameterBase<ParameterCollection::ICommandParameter>
 {
 public:

@@ -19,7 +19,8 @@ FeatureTreeProxyModel::~FeatureTreeProxyModel() = default;
 
 IFeatureTreeModelExtension *FeatureTreeProxyModel::source() const
 {
-    return dynamic_cast<IFeatureTreeModelExtension *>(sourceModel());
+    // The interface is no QObject.
+    return dynamic_cast<IFeatureTreeModelExtension *>(sourceModel()); // clazy:exclude=unneeded-cast
 }
 
 bool FeatureTreeProxyModel::isOverTree() const

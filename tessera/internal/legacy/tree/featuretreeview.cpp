@@ -110,7 +110,8 @@ void FeatureTreeView::setModel(QAbstractItemModel *newModel)
 
 IFeatureTreeModelExtension *FeatureTreeView::extension() const
 {
-    return dynamic_cast<IFeatureTreeModelExtension *>(model());
+    // The interface is no QObject.
+    return dynamic_cast<IFeatureTreeModelExtension *>(model()); // clazy:exclude=unneeded-cast
 }
 
 FeatureTreeINodeItem *FeatureTreeView::feature(const QModelIndex &index) const

@@ -22,7 +22,7 @@ public:
     }
     bool takeOne(const QString &name)
     {
-        const auto count = m_counts.find(name);
+        const auto count = m_counts.find(name); // clazy:exclude=detaching-member
         if (count == m_counts.end()) {
             return false;
         }

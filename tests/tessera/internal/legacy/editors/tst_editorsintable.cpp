@@ -1,6 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Tessera contributors
 // SPDX-License-Identifier: MIT
 
+// Connections end with the test function.
+// clazy:excludeall=lambda-in-connect
+
 #include "valuetable.h"
 
 #include "plugin/contract/parametercollection/parameter.h"
@@ -69,7 +72,7 @@ void turnWheel(QWidget *target, int notches)
     qApp->notify(target, &event);
 }
 
-void sendMouse(QWidget *target, QEvent::Type type, const QPoint &place, Qt::MouseButtons buttons)
+void sendMouse(QWidget *target, QEvent::Type type, QPoint place, Qt::MouseButtons buttons)
 {
     const bool moves = type == QEvent::MouseMove;
     QMouseEvent event(type, place, target->mapToGlobal(place),
@@ -246,7 +249,7 @@ private Q_SLOTS:
         QFETCH(Publication, publication);
         QFETCH(FaultKind, kind);
         m_camera->setPublication(publication);
-        for (const QString &path : paths()) {
+        for (const QString &path : paths()) { // clazy:exclude=range-loop-detach
             m_camera->faults().failWrites(path, kind);
             m_camera->faults().failWrites(path + QStringLiteral("/Alias"), kind);
         }

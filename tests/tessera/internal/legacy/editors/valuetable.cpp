@@ -47,7 +47,7 @@ ValueModel::ValueModel(const QSharedPointer<IParameterCollection> &collection,
     for (const QString &name : names) {
         const int row = m_pairs.size();
         const auto parameter = collection->parameter(name);
-        m_pairs.append({parameter, parameter->parameterData()});
+        m_pairs.append({parameter, parameter->parameterData()}); // clazy:exclude=reserve-candidates
         connect(parameter.data(), &IParameter::parameterDataChangedDecoupled, this,
                 [this, row](const QSharedPointer<const ParameterData> &data) {
                     m_pairs[row].data = data;

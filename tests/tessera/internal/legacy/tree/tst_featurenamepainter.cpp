@@ -23,7 +23,7 @@ const QColor window(200, 210, 220);
 const QColor search(0xFF, 0xA7, 0x00);
 const QColor favorite(0xFF, 0xD8, 0x93);
 
-int count(const QImage &image, const QRect &part, const QColor &color)
+int count(const QImage &image, QRect part, const QColor &color)
 {
     int pixels = 0;
     const QRect inside = part & image.rect();

@@ -1,6 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Tessera contributors
 // SPDX-License-Identifier: MIT
 
+// Connections end with the test function.
+// clazy:excludeall=lambda-in-connect
+
 #include "internal/legacy/tree/featuretreedelegate.h"
 
 #include "internal/legacy/editors/checkboxeditor.h"
