@@ -1,23 +1,60 @@
 // SPDX-FileCopyrightText: 2026 Tessera contributors
 // SPDX-License-Identifier: MIT
 
+#include "host/framework/exceptionreport.h"
 #include "host/framework/log.h"
+#include "plugin/contract/core/baseexception.h"
 #include "plugin/contract/core/logging.h"
+#include "plugin/contract/genapi/genericexception.h"
+#include "plugin/contract/viewer/exceptiondialogs.h"
 
+#include <QApplication>
+#include <QMessageBox>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
 
 #include <memory>
+#include <stdexcept>
 
 using Core::Logging::createLogEntry;
 using Core::Logging::ELogLevel;
 using Core::Logging::getCatId;
 
+namespace {
+
+QVector<QMessageBox *> openBoxes()
+{
+    QVector<QMessageBox *> result;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        auto *box = qobject_cast<QMessageBox *>(window);
+        if (box != nullptr && box->isVisible()) {
+            result.append(box);
+        }
+    }
+    return result;
+}
+
+} // namespace
+
+// The log, and the exception dialogs that report to it.
 class TestLog : public QObject
 {
     Q_OBJECT
+
+private:
+    static QStringList texts()
+    {
+        QStringList result;
+        const QVector<Host::LogEntry> entries = Host::Log::instance().entries();
+        for (const Host::LogEntry &entry : entries) {
+            result.append(entry.text);
+        }
+        return result;
+    }
 
 private Q_SLOTS:
     void init()
@@ -28,56 +65,40 @@ private Q_SLOTS:
     void cleanup()
     {
         Host::Log::instance().setFile(QString());
-    }
-
-    void givesOneNumberPerCategory()
-    {
-        const quint64 first = getCatId("test.first");
-        QVERIFY(first != 0);
-        QVERIFY(getCatId("test.second") != first);
-        QCOMPARE(getCatId("test.first"), first);
+        Host::setExceptionReportHook(nullptr);
+        qDeleteAll(openBoxes());
     }
 
     void keepsLevelCategoryAndText_data()
     {
         QTest::addColumn<int>("level");
-        QTest::addColumn<QString>("word");
-        QTest::newRow("fault") << 0 << QStringLiteral("Fault");
-        QTest::newRow("information") << 1 << QStringLiteral("Information");
-        QTest::newRow("failure") << 2 << QStringLiteral("Failure");
-        QTest::newRow("number of another host") << 7 << QStringLiteral("Level 7");
+        QTest::newRow("Fault") << 0;
+        QTest::newRow("Information") << 1;
+        QTest::newRow("Failure") << 2;
+        QTest::newRow("Level 7") << 7; // of another host
     }
 
     void keepsLevelCategoryAndText()
     {
         QFETCH(int, level);
-        QFETCH(QString, word);
+        QVERIFY(getCatId("test.kept") != getCatId("test.other"));
         createLogEntry(static_cast<ELogLevel>(level), getCatId("test.kept"),
                        QStringLiteral("a %1"));
-        const Host::LogEntry entry = Host::Log::instance().entries().constLast();
-        QCOMPARE(entry.level, static_cast<ELogLevel>(level));
-        QCOMPARE(entry.category, QStringLiteral("test.kept"));
-        QCOMPARE(entry.text, QStringLiteral("a %1"));
-        QVERIFY(Host::toLine(entry).endsWith(word + QStringLiteral(" test.kept: a %1")));
-    }
-
-    void namesAnUnknownCategory()
-    {
         createLogEntry(ELogLevel::Information, 987654, QStringLiteral("text"));
-        QCOMPARE(Host::Log::instance().entries().constLast().category,
-                 QStringLiteral("unknown category 987654"));
+        const QVector<Host::LogEntry> entries = Host::Log::instance().entries();
+        QVERIFY(Host::toLine(entries.at(0))
+                    .endsWith(QLatin1String(QTest::currentDataTag())
+                              + QStringLiteral(" test.kept: a %1")));
+        QCOMPARE(entries.at(1).category, QStringLiteral("unknown category 987654"));
     }
 
     void keepsTheNewestEntriesOnly()
     {
-        const quint64 category = getCatId("test.many");
         for (int i = 0; i < Host::Log::capacity + 5; ++i) {
-            createLogEntry(ELogLevel::Information, category, QString::number(i));
+            createLogEntry(ELogLevel::Information, getCatId("test.many"), QString::number(i));
         }
-        const QVector<Host::LogEntry> entries = Host::Log::instance().entries();
-        QCOMPARE(entries.size(), Host::Log::capacity);
-        QCOMPARE(entries.constFirst().text, QStringLiteral("5"));
-        QCOMPARE(entries.constLast().text, QString::number(Host::Log::capacity + 4));
+        QCOMPARE(texts().size(), Host::Log::capacity);
+        QCOMPARE(texts().constFirst(), QStringLiteral("5"));
     }
 
     void announcesEntriesOfOtherThreadsOnTheGuiThread()
@@ -99,7 +120,7 @@ private Q_SLOTS:
         disconnect(&Host::Log::instance(), nullptr, this, nullptr);
     }
 
-    void appendsToAFile()
+    void appendsToAFileAndGoesOnWithoutOne()
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("run.log"));
@@ -107,6 +128,12 @@ private Q_SLOTS:
             QVERIFY(Host::Log::instance().setFile(path));
             createLogEntry(ELogLevel::Fault, getCatId("test.file"), text);
         }
+        const QString missing = folder.filePath(QStringLiteral("missing/run.log"));
+        QVERIFY(!Host::Log::instance().setFile(missing));
+        createLogEntry(ELogLevel::Information, getCatId("test.file"), QStringLiteral("goes on"));
+        QVERIFY(texts().at(2).startsWith(
+            QStringLiteral("Cannot open the log file \"%1\": ").arg(missing)));
+        QCOMPARE(texts().at(3), QStringLiteral("goes on"));
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QString content = QString::fromUtf8(file.readAll());
@@ -115,19 +142,49 @@ private Q_SLOTS:
         QVERIFY(content.endsWith(QStringLiteral("Fault test.file: größer\n")));
     }
 
-    void goesOnWithoutAFileThatCannotBeOpened()
+    void exceptionsAreLoggedAndShown()
     {
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("missing/run.log"));
-        QVERIFY(!Host::Log::instance().setFile(path));
-        createLogEntry(ELogLevel::Information, getCatId("test.file"), QStringLiteral("goes on"));
-        const QVector<Host::LogEntry> entries = Host::Log::instance().entries();
-        QCOMPARE(entries.size(), 2);
-        QVERIFY(entries.at(0).text.startsWith(
-            QStringLiteral("Cannot open the log file \"%1\": ").arg(path)));
-        QCOMPARE(entries.at(1).text, QStringLiteral("goes on"));
+        const QString where = QStringLiteral("Test::show");
+        const QString message = QStringLiteral("No.");
+        constexpr char text[] = "text <b>1</b>";
+        QStringList reports;
+        const auto showAll = [&](QWidget *parent) {
+            showException(where, GenICam::GenericException(text, __FILE__, __LINE__), message,
+                          parent);
+            showException(where, std::runtime_error(text), message, parent);
+            showException(where, Core::Exception::BaseException(text), message, parent);
+            showUnexpectedException(where, message, parent);
+        };
+        Host::setExceptionReportHook([&reports](const Host::ExceptionReport &report) {
+            reports.append(report.where % report.message % report.exceptionText);
+        });
+        showAll(nullptr);
+        const QString withText = QStringLiteral("Test::showNo.text <b>1</b>");
+        QCOMPARE(reports, QStringList({withText, withText, withText, where + message}));
+        QVERIFY(openBoxes().isEmpty());
+
+        Host::setExceptionReportHook(nullptr);
+        QWidget window;
+        window.show();
+        showAll(&window); // returns, with one box for each of the two texts
+        showAll(&window);
+        QCOMPARE(openBoxes().size(), 2);
+        QSet<QString> shown;
+        const QVector<QMessageBox *> boxes = openBoxes();
+        for (const QPointer<QMessageBox> box : boxes) {
+            shown.insert(box->text());
+            QCOMPARE(box->textFormat(), Qt::PlainText);
+            QCOMPARE(box->parentWidget(), &window);
+            QTest::keyClick(box, Qt::Key_Escape);
+            QTRY_VERIFY(box.isNull());
+        }
+        QCOMPARE(shown, QSet<QString>({message, message + QStringLiteral("\n\ntext <b>1</b>")}));
+        showUnexpectedException(where, message, nullptr); // closed, it may come again
+        QCOMPARE(openBoxes().size(), 1);
+        QCOMPARE(texts().count(QStringLiteral("Test::show: No. text <b>1</b>")), 9);
+        QCOMPARE(texts().count(QStringLiteral("Test::show: No.")), 4);
     }
 };
 
-QTEST_GUILESS_MAIN(TestLog)
+QTEST_MAIN(TestLog)
 #include "tst_log.moc"

@@ -18,11 +18,6 @@ void log(const QString &text)
                                   Core::Logging::getCatId("test.plugin"), text);
 }
 
-bool behaves(const char *behaviour)
-{
-    return QLatin1String(TEST_PLUGIN_BEHAVIOUR) == QLatin1String(behaviour);
-}
-
 } // namespace
 
 TestPlugin::TestPlugin()
@@ -37,6 +32,7 @@ TestPlugin::~TestPlugin()
 
 bool TestPlugin::setLanguage(const QString &language)
 {
+    m_behaviour = language;
     log(QStringLiteral("%1 speaks %2").arg(objectName(), language));
     return ALocalizedPlugin::setLanguage(language);
 }
@@ -46,16 +42,16 @@ bool TestPlugin::initialize(QWeakPointer<Core::Service::IServiceRegistry> regist
     log(QStringLiteral("initialize"));
     registry.toStrongRef()->registerService(
         QSharedPointer<Core::Service::IService>::create(nullptr));
-    if (behaves("initialize throws")) {
+    if (m_behaviour == QLatin1String("initialize throws")) {
         throw GenICam::InvalidArgumentException("no device", __FILE__, __LINE__);
     }
-    return !behaves("initialize fails");
+    return m_behaviour != QLatin1String("initialize fails");
 }
 
 bool TestPlugin::start()
 {
     log(QStringLiteral("start"));
-    if (behaves("stubborn")) {
+    if (m_behaviour == QLatin1String("stubborn")) {
         throw Core::Exception::BaseException("not ready");
     }
     return true;
@@ -64,7 +60,7 @@ bool TestPlugin::start()
 bool TestPlugin::uninitialize(QWeakPointer<Core::Service::IServiceRegistry> registry)
 {
     log(QStringLiteral("uninitialize, %1 services").arg(registry.toStrongRef()->services().size()));
-    if (behaves("stubborn")) {
+    if (m_behaviour == QLatin1String("stubborn")) {
         throw 1;
     }
     return true;
@@ -73,7 +69,7 @@ bool TestPlugin::uninitialize(QWeakPointer<Core::Service::IServiceRegistry> regi
 bool TestPlugin::checkPluginClosability(bool forced)
 {
     log(QStringLiteral("may close?"));
-    return forced || !behaves("stubborn");
+    return forced || m_behaviour != QLatin1String("stubborn");
 }
 
 Core::Plugin::IPlugin::UninitializeMode TestPlugin::aboutToUninitialize()

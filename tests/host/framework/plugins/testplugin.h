@@ -5,8 +5,9 @@
 
 #include "plugin/contract/core/localizedplugin.h"
 
-/// A plug-in that logs each step of its life as information in the category "test.plugin". It is
-/// built several times; TEST_PLUGIN_BEHAVIOUR says in which step it misbehaves.
+/// A plug-in that logs each step of its life as information in the category "test.plugin". The
+/// language it is given tells where it misbehaves: "initialize fails", "initialize throws" or
+/// "stubborn".
 class TestPlugin final : public Core::Plugin::ALocalizedPlugin
 {
     Q_OBJECT
@@ -22,4 +23,7 @@ public:
     bool uninitialize(QWeakPointer<Core::Service::IServiceRegistry> registry) override;
     bool checkPluginClosability(bool forced) override;
     UninitializeMode aboutToUninitialize() override;
+
+private:
+    QString m_behaviour;
 };

@@ -5,12 +5,7 @@
 
 #include "plugin/contract/core/baseexception.h"
 #include "plugin/contract/genapi/invalidargumentexception.h"
-#include "plugin/contract/parametercollection/booleanparameter.h"
-#include "plugin/contract/parametercollection/commandparameter.h"
-#include "plugin/contract/parametercollection/enumparameter.h"
-#include "plugin/contract/parametercollection/floatparameter.h"
-#include "plugin/contract/parametercollection/integerparameter.h"
-#include "plugin/contract/parametercollection/parameternode.h"
+#include "support/fakeparameter.h"
 
 #include <stdexcept>
 
@@ -18,103 +13,11 @@ using namespace ParameterCollection;
 
 namespace {
 
-// What every kind has to answer, as a parameter that was unplugged does.
-template<typename Kind> class Unplugged : public Kind
+template<typename Interface> IParameter *make()
 {
-public:
-    void setFromString(const QString &) override
-    {
-    }
-    bool isNull() const override
-    {
-        return true;
-    }
-    bool isWritable() const override
-    {
-        return false;
-    }
-    bool isImplemented() const override
-    {
-        return false;
-    }
-    bool hasFilterTarget() const override
-    {
-        return false;
-    }
-    GenApi::EVisibility visibility() const override
-    {
-        return GenApi::UndefinedVisibility;
-    }
-    ParameterType type() const override
-    {
-        return ParameterType::Other;
-    }
-    QString fullName() const override
-    {
-        return {};
-    }
-    QString name() const override
-    {
-        return {};
-    }
-    QSharedPointer<IParameterNode> node() const override
-    {
-        return {};
-    }
-    QSharedPointer<const ParameterData> parameterData() const override
-    {
-        return {};
-    }
-    void refresh(bool) override
-    {
-    }
-};
-
-class IntegerStandIn final : public Unplugged<IIntegerParameter>
-{
-    Q_OBJECT
-
-public:
-    void setValue(qint64, bool) override
-    {
-    }
-    qint64 value() const override
-    {
-        return 0;
-    }
-};
-
-class FloatStandIn final : public Unplugged<IFloatParameter>
-{
-    Q_OBJECT
-
-public:
-    void setValue(double, bool) override
-    {
-    }
-    double value() const override
-    {
-        return 0.0;
-    }
-    double minimum() const override
-    {
-        return 0.0;
-    }
-    double maximum() const override
-    {
-        return 0.0;
-    }
-};
-
-class CommandStandIn final : public Unplugged<ICommandParameter>
-{
-    Q_OBJECT
-
-public:
-    void execute(bool) override
-    {
-    }
-};
+    static const bool delayed = false;
+    return new Tests::FakeParameter<Interface>(QSharedPointer<Tests::FakeNode>::create(), delayed);
+}
 
 } // namespace
 
@@ -122,19 +25,17 @@ extern "C" Q_DECL_EXPORT IParameter *makeParameter(int kind)
 {
     switch (kind) {
     case ParameterType::Integer:
-        return new IntegerStandIn;
+        return make<IIntegerParameter>();
     case ParameterType::Boolean:
-        return new Unplugged<IBooleanParameter>;
+        return make<IBooleanParameter>();
     case ParameterType::Float:
-        return new FloatStandIn;
+        return make<IFloatParameter>();
     case ParameterType::Command:
-        return new CommandStandIn;
-    case ParameterType::String:
-        return new Unplugged<IParameter>;
+        return make<ICommandParameter>();
     case ParameterType::Enumeration:
-        return new Unplugged<IEnumParameter>;
+        return make<IEnumParameter>();
     default:
-        return nullptr;
+        return make<IParameter>();
     }
 }
 
@@ -154,5 +55,3 @@ extern "C" Q_DECL_EXPORT void throwException(int kind)
         throw kind;
     }
 }
-
-#include "contractmodule.moc"

@@ -5,7 +5,7 @@
 
 #include "plugin/contract/parametercollection/parameter.h"
 
-/// Makes a parameter of a kind; null for a kind that has no class of its own.
+/// Makes a parameter of a kind; one of no special kind for those without a class of their own.
 using MakeParameter = ParameterCollection::IParameter *(*)(int kind);
 /// Throws an exception with the text "from afar".
 using ThrowException = void (*)(int kind);

@@ -6,7 +6,6 @@
 #include "plugin/contract/core/baseexception.h"
 #include "plugin/contract/core/id.h"
 #include "plugin/contract/genapi/invalidargumentexception.h"
-#include "plugin/contract/metatypes.h"
 #include "plugin/contract/parametercollection/booleanparameter.h"
 #include "plugin/contract/parametercollection/booleanparameterdata.h"
 #include "plugin/contract/parametercollection/commandparameter.h"
@@ -28,8 +27,6 @@
 using namespace ParameterCollection;
 using SnapshotPtr = QSharedPointer<const ParameterData>;
 
-Q_DECLARE_METATYPE(QSharedPointer<ParameterCollection::IParameter>)
-
 class TestContract : public QObject
 {
     Q_OBJECT
@@ -45,95 +42,56 @@ private Q_SLOTS:
         m_guard.verify();
     }
 
-    void freshSnapshotsHoldTheirDefaults_data()
-    {
-        QTest::addColumn<SnapshotPtr>("snapshot");
-        QTest::addColumn<int>("type");
-        QTest::newRow("plain") << SnapshotPtr(new ParameterData) << 0;
-        QTest::newRow("integer") << SnapshotPtr(new IntegerParameterData) << 1;
-        QTest::newRow("boolean") << SnapshotPtr(new BooleanParameterData) << 2;
-        QTest::newRow("float") << SnapshotPtr(new FloatParameterData) << 3;
-        QTest::newRow("command") << SnapshotPtr(new CommandParameterData) << 4;
-        QTest::newRow("string") << SnapshotPtr(new StringParameterData) << 5;
-        QTest::newRow("enumeration") << SnapshotPtr(new EnumParameterData) << 6;
-    }
-
     void freshSnapshotsHoldTheirDefaults()
     {
-        QFETCH(SnapshotPtr, snapshot);
-        QFETCH(int, type);
-        QCOMPARE(snapshot->type, type);
-        QCOMPARE(snapshot->visibility, int(GenApi::UndefinedVisibility));
-        QVERIFY(!snapshot->isReadable && !snapshot->isWritable && !snapshot->isImplemented);
-        QVERIFY(snapshot->isValid);
-        QVERIFY(snapshot->valueText.isEmpty());
-    }
-
-    void freshValuesAreZeroAndEmpty()
-    {
+        const QVector<SnapshotPtr> snapshots {
+            SnapshotPtr(new ParameterData),        SnapshotPtr(new IntegerParameterData),
+            SnapshotPtr(new BooleanParameterData), SnapshotPtr(new FloatParameterData),
+            SnapshotPtr(new CommandParameterData), SnapshotPtr(new StringParameterData),
+            SnapshotPtr(new EnumParameterData)};
+        for (int type = 0; type < snapshots.size(); ++type) {
+            const ParameterData &fresh = *snapshots.at(type);
+            QCOMPARE(fresh.type, type);
+            QCOMPARE(fresh.visibility, int(GenApi::UndefinedVisibility));
+            QVERIFY(!fresh.isReadable && !fresh.isWritable && !fresh.isImplemented);
+            QVERIFY(fresh.isValid && fresh.valueText.isEmpty());
+        }
         const IntegerParameterData integer;
         QVERIFY(integer.value == 0 && integer.minimum == 0 && integer.maximum == 0);
         QVERIFY(integer.increment == 0 && integer.representation.isEmpty());
         const FloatParameterData number;
         QVERIFY(number.value == 0.0 && number.minimum == 0.0 && number.maximum == 0.0);
         QVERIFY(!number.hasIncrement && number.increment == 0.0 && number.displayPrecision == 0);
-        QVERIFY(number.representation.isEmpty());
-        QVERIFY(!BooleanParameterData().value);
-        QVERIFY(!CommandParameterData().isDone);
-        const EnumParameterData choice;
-        QVERIFY(choice.currentEntry.isEmpty() && choice.entryNames.isEmpty());
-        QVERIFY(choice.entryDisplayNames.isEmpty());
+        QVERIFY(!BooleanParameterData().value && !CommandParameterData().isDone);
     }
 
-    void typesOfSignalsAreRegistered_data()
+    void typesOfSignalsAreRegistered()
     {
-        QTest::addColumn<QByteArray>("name");
         for (const char *name :
              {"Core::AppCoreComponents::BaseInfoPtr", "GenApi::EVisibility",
               "ParameterCollection::ParameterName", "QList<ParameterCollection::ParameterName>",
               "QSharedPointer<const ParameterCollection::ParameterData>",
               "QSharedPointer<ParameterCollection::IParameter>"}) {
-            QTest::newRow(name) << QByteArray(name);
+            QVERIFY2(QMetaType::type(name) != QMetaType::UnknownType, name);
         }
-    }
-
-    void typesOfSignalsAreRegistered()
-    {
-        QFETCH(QByteArray, name);
-        const int before = QMetaType::type(name.constData());
-        QVERIFY(before != QMetaType::UnknownType);
-        registerContractMetaTypes();
-        QCOMPARE(QMetaType::type(name.constData()), before);
-    }
-
-    void kindsAreToldApartAcrossModules_data()
-    {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<QString>("casts"); // to integer, boolean, float, command, enumeration
-        QTest::newRow("integer") << int(ParameterType::Integer) << QStringLiteral("10000");
-        QTest::newRow("boolean") << int(ParameterType::Boolean) << QStringLiteral("01000");
-        QTest::newRow("float") << int(ParameterType::Float) << QStringLiteral("00100");
-        QTest::newRow("command") << int(ParameterType::Command) << QStringLiteral("00010");
-        QTest::newRow("string") << int(ParameterType::String) << QStringLiteral("00000");
-        QTest::newRow("enumeration") << int(ParameterType::Enumeration) << QStringLiteral("00001");
     }
 
     void kindsAreToldApartAcrossModules()
     {
-        QFETCH(int, kind);
-        QFETCH(QString, casts);
         const auto make = reinterpret_cast<MakeParameter>(m_module.resolve("makeParameter"));
         QVERIFY2(make, qPrintable(m_module.errorString()));
-        const QSharedPointer<IParameter> parameter(make(kind));
-        QString result;
-        for (const bool cast : {!parameter.objectCast<IIntegerParameter>().isNull(),
-                                !parameter.objectCast<IBooleanParameter>().isNull(),
-                                !parameter.objectCast<IFloatParameter>().isNull(),
-                                !parameter.objectCast<ICommandParameter>().isNull(),
-                                !parameter.objectCast<IEnumParameter>().isNull()}) {
-            result.append(QLatin1Char(cast ? '1' : '0'));
+        QStringList casts; // by kind: the classes it can be cast to
+        for (const int kind : {1, 2, 3, 4, 5, 6}) {
+            const QSharedPointer<IParameter> made(make(kind));
+            casts.append(QString::number(kind) % QLatin1Char(':')
+                         % QLatin1String(made.objectCast<IIntegerParameter>() ? "integer" : "")
+                         % QLatin1String(made.objectCast<IBooleanParameter>() ? "boolean" : "")
+                         % QLatin1String(made.objectCast<IFloatParameter>() ? "float" : "")
+                         % QLatin1String(made.objectCast<ICommandParameter>() ? "command" : "")
+                         % QLatin1String(made.objectCast<IEnumParameter>() ? "enumeration" : ""));
         }
-        QCOMPARE(result, casts);
+        QCOMPARE(casts.join(QLatin1Char(' ')),
+                 QStringLiteral("1:integer 2:boolean 3:float 4:command 5: 6:enumeration"));
     }
 
     void exceptionsAreCaughtByKindAcrossModules_data()
@@ -173,7 +131,7 @@ private Q_SLOTS:
         QCOMPARE(result, caught);
     }
 
-    void namesAreValuesComparedByText()
+    void namesAndIdsAreValuesComparedByText()
     {
         const ParameterName width(QStringLiteral("@CameraDevice/Width"));
         const ParameterName same(QStringLiteral("@CameraDevice/Width"));
@@ -181,17 +139,11 @@ private Q_SLOTS:
         QVERIFY(width == same && !(width != same) && width != other);
         QVERIFY(width < other && !(other < width) && !(width < same));
         QCOMPARE(QSet<ParameterName>({width, same, other}).size(), 2);
-        QCOMPARE(width.toString(), QStringLiteral("@CameraDevice/Width"));
-        QVERIFY(ParameterName().toString().isEmpty());
-    }
-
-    void idsAreValuesAndSuffixesAreJoinedByADot()
-    {
         const Core::CId id("Tessera.Widget.User0");
-        const Core::CId item = id.withSuffix("menuItem");
-        QCOMPARE(item.toString(), QStringLiteral("Tessera.Widget.User0.menuItem"));
-        QCOMPARE(id.toString(), QStringLiteral("Tessera.Widget.User0"));
-        QVERIFY(item != id && item == Core::CId("Tessera.Widget.User0.menuItem"));
+        QCOMPARE(id.withSuffix("menuItem").toString(),
+                 QStringLiteral("Tessera.Widget.User0.menuItem"));
+        QVERIFY(id.withSuffix("menuItem") == Core::CId("Tessera.Widget.User0.menuItem"));
+        QVERIFY(id.withSuffix("menuItem") != id);
     }
 
 private:
