@@ -57,7 +57,7 @@ function(tessera_add_test)
     endif()
     set_property(TEST ${arg_NAME} PROPERTY TIMEOUT 300)
     set_property(TEST ${arg_NAME} PROPERTY ENVIRONMENT
-        "QT_QPA_PLATFORM=${platform}" QT_QUICK_BACKEND=software QT_FONT_DPI=96 LC_ALL=C.UTF-8
+        "QT_QPA_PLATFORM=${platform}" QT_XCB_GL_INTEGRATION=none QT_QUICK_BACKEND=software QT_FONT_DPI=96 LC_ALL=C.UTF-8
         "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/leaks-of-others.txt:print_suppressions=0"
         ASAN_OPTIONS=fast_unwind_on_malloc=0 UBSAN_OPTIONS=print_stacktrace=1)
 endfunction()

@@ -65,7 +65,7 @@ QSharedPointer<IParameter> SimulatedCollection::parameter(const QString &fullNam
     const auto known = m_parameters.constFind(fullName);
     if (known != m_parameters.cend())
         return *known;
-    const QSharedPointer<IParameter> made = makeObject(fullName);
+    QSharedPointer<IParameter> made = makeObject(fullName);
     if (made)
         m_parameters.insert(fullName, made);
     return made;
@@ -125,7 +125,7 @@ QVariant SimulatedCollection::deviceValue(const QString &fullName) const
 {
     const int id = description().find(fullName);
     if (id < 0)
-        return QVariant();
+        return {};
     return variantOf(description().feature(id), m_library->device().value(id));
 }
 

@@ -45,10 +45,7 @@ DevicesView::DevicesView(SourceSession *session, QWidget *parent)
     m_list->setUniformRowHeights(true);
     m_list->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_list->addActions(sourceActions());
-    m_list->header()->setStretchLastSection(false);
-    m_list->header()->setSectionResizeMode(SourceModel::Name, QHeaderView::Stretch);
-    m_list->header()->setSectionResizeMode(SourceModel::Kind, QHeaderView::ResizeToContents);
-    m_list->header()->setSectionResizeMode(SourceModel::State, QHeaderView::ResizeToContents);
+    m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
 
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(buttonFor(m_openAction, this));

@@ -13,6 +13,9 @@
 #include <QLocale>
 #include <QStringList>
 
+#include <algorithm>
+#include <iterator>
+
 namespace Viewer {
 
 using namespace ParameterCollection;
@@ -111,7 +114,11 @@ QString limitsText(const ParameterData &data)
                      number->hasIncrement ? floatText(number->increment) : QString());
     }
     if (const auto *choice = dynamic_cast<const EnumParameterData *>(&data)) {
-        return choice->entryNames.toList().join(QStringLiteral(", "));
+        QStringList names;
+        names.reserve(choice->entryNames.size());
+        std::copy(choice->entryNames.cbegin(), choice->entryNames.cend(),
+                  std::back_inserter(names));
+        return names.join(QStringLiteral(", "));
     }
     return QString();
 }

@@ -12,6 +12,8 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <iterator>
+#include <numeric>
 
 namespace Viewer {
 
@@ -56,17 +58,21 @@ QSize LogView::sizeHint() const
 
 void LogView::copy() const
 {
-    QModelIndexList rows = selectionModel()->selectedRows();
-    std::sort(rows.begin(), rows.end());
+    QVector<int> rows;
+    const QModelIndexList selected = selectionModel()->selectedRows();
+    if (selected.isEmpty()) {
+        rows.resize(m_model->rowCount());
+        std::iota(rows.begin(), rows.end(), 0);
+    } else {
+        rows.resize(selected.size());
+        std::transform(selected.cbegin(), selected.cend(), rows.begin(),
+                       [](const QModelIndex &index) { return index.row(); });
+        std::sort(rows.begin(), rows.end());
+    }
     QStringList lines;
-    if (rows.isEmpty()) {
-        for (int row = 0; row < m_model->rowCount(); ++row) {
-            lines.append(m_model->line(row));
-        }
-    }
-    for (const QModelIndex &index : qAsConst(rows)) {
-        lines.append(m_model->line(index.row()));
-    }
+    lines.reserve(rows.size());
+    std::transform(rows.cbegin(), rows.cend(), std::back_inserter(lines),
+                   [this](int row) { return m_model->line(row); });
     QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
 }
 

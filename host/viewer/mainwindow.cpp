@@ -144,10 +144,10 @@ void MainWindow::arrangeDocks()
         return dockWidgetArea(dock) == Qt::RightDockWidgetArea && !dock->isHidden();
     });
     if (features != docks.cend()) {
-        resizeDocks({devices, *features}, {width() / 4, width() * 3 / 4}, Qt::Horizontal);
+        resizeDocks({devices, *features}, {width() * 3 / 10, width() * 7 / 10}, Qt::Horizontal);
         resizeDocks({*features, documentation}, {height() * 3 / 4, height() / 4}, Qt::Vertical);
     }
-    resizeDocks({documentation, log}, {width() * 3 / 10, width() * 45 / 100}, Qt::Horizontal);
+    resizeDocks({documentation, log}, {width() * 3 / 10, width() * 4 / 10}, Qt::Horizontal);
 }
 
 QMenu *MainWindow::makeContainerMenu(const Core::CId &id, const QString &title)

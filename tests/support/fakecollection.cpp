@@ -76,7 +76,8 @@ bool takeRange(FakeNode &node, const QString &word)
 }
 
 template<typename Interface>
-QSharedPointer<IParameter> make(const QSharedPointer<FakeNode> &node, const bool &delayed)
+QSharedPointer<IParameter> make(const QSharedPointer<FakeNode> &node,
+                                const bool &delayed) // clazy:exclude=function-args-by-value
 {
     return QSharedPointer<FakeParameter<Interface>>::create(node, delayed);
 }
@@ -100,7 +101,7 @@ void FakeCollection::attach(const QString &path, const QString &text)
         above = above.mid(0, level + 1);
         const QString child = addNode(path, bare);
         m_nodes.value(above.constLast())->children.append(child);
-        above.append(child);
+        above.append(child); // clazy:exclude=reserve-candidates
     }
     m_paths.append(path);
     Q_EMIT nodeMapAttached(path);

@@ -31,6 +31,7 @@ template<typename Data> QSharedPointer<ParameterData> number(const FakeNode &nod
     data->minimum = static_cast<Value>(node.minimum);
     data->maximum = static_cast<Value>(
         node.minimum < node.maximum || node.maximum < node.minimum ? node.maximum : 1000000.0);
+    data->increment = 1;
     data->representation = node.properties.value(QStringLiteral("Representation"));
     return data;
 }
@@ -42,15 +43,22 @@ QSharedPointer<ParameterData> blank(const FakeNode &node)
         return number<IntegerParameterData>(node);
     case Float:
         return number<FloatParameterData>(node);
-    case Boolean:
-        return QSharedPointer<BooleanParameterData>::create();
-    case Command:
-        return QSharedPointer<CommandParameterData>::create();
+    case Boolean: {
+        const auto data = QSharedPointer<BooleanParameterData>::create();
+        data->value = node.number > 0.0;
+        return data;
+    }
+    case Command: {
+        const auto data = QSharedPointer<CommandParameterData>::create();
+        data->isDone = true;
+        return data;
+    }
     case String:
         return QSharedPointer<StringParameterData>::create();
     case Enumeration: {
         const auto data = QSharedPointer<EnumParameterData>::create();
         data->entryNames = node.entries.toVector();
+        data->entryDisplayNames = data->entryNames;
         return data;
     }
     case None:

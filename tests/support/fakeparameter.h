@@ -3,6 +3,8 @@
 
 #pragma once
 
+// Templates have no meta object of their own. clazy:excludeall=missing-qobject-macro
+
 #include "plugin/contract/parametercollection/booleanparameter.h"
 #include "plugin/contract/parametercollection/commandparameter.h"
 #include "plugin/contract/parametercollection/enumparameter.h"

@@ -123,6 +123,7 @@ void DescriptionReader::readItem(const QJsonValue &item, int parent, const Place
 void DescriptionReader::readIncluded(const QString &fileName, int parent)
 {
     const QString path = m_folder % QLatin1Char('/') % fileName;
+    // The chain of files above this one: a file may be included twice, but not within itself.
     if (m_included.contains(path))
         throw BadEntry(QStringLiteral("\"%1\" includes itself").arg(fileName));
     const QJsonObject object = objectFromFile(path);

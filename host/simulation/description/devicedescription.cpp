@@ -76,6 +76,7 @@ int DeviceDescription::addFeature(FeatureDescription feature, int parent)
 
 void DeviceDescription::addAlias(int id)
 {
+    // All texts of the float hold for its companion too; copies share them.
     FeatureDescription companion = feature(id);
     const AliasRule rule = *companion.rules->alias;
     companion.name += QStringLiteral("/Alias");

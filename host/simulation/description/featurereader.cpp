@@ -84,7 +84,7 @@ QString readRepresentation(const QJsonObject &object, ParameterType type)
                                     QStringLiteral("Boolean"),   QStringLiteral("IPV4Address"),
                                     QStringLiteral("MACAddress")};
     if (type != ParameterType::Integer && type != ParameterType::Float)
-        return QString();
+        return {};
     const QString word = object.value(QLatin1String("representation")).toString();
     const auto known = words.indexOf(word);
     if (known < 0 && !word.isEmpty())

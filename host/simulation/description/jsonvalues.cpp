@@ -27,11 +27,12 @@ qint64 integerFromText(const QString &text, bool *ok)
 
 qint64 integerFromJson(const QJsonValue &value, const QString &key)
 {
+    if (value.isBool())
+        return value.toBool() ? 1 : 0;
     bool ok = false;
     qint64 integer = 0;
-    if (value.isBool()) {
-        return value.toBool() ? 1 : 0;
-    } else if (value.isDouble()) {
+    if (value.isDouble()) {
+        // Beyond 53 bits a JSON number may be rounded; such values are given as text.
         ok = value.toDouble() == std::floor(value.toDouble());
         integer = value.toVariant().toLongLong();
     } else {

@@ -158,6 +158,7 @@ private:
                 report(QStringLiteral("\"%1\" is no value of \"%2\"")
                            .arg(it.key(), rules.selectedBy.name));
         }
+        // The texts have served; what is kept is small.
         rules.selectedTexts.clear();
     }
 

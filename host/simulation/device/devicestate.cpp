@@ -30,6 +30,7 @@ bool hangsOnSelector(const FeatureDescription &feature)
 
 qint64 steppedDown(qint64 value, qint64 minimum, qint64 increment)
 {
+    // The distance may take all 64 bits, so it is computed without a sign.
     const auto distance = static_cast<quint64>(value) - static_cast<quint64>(minimum);
     return static_cast<qint64>(static_cast<quint64>(value)
                                - distance % static_cast<quint64>(increment));
@@ -187,11 +188,12 @@ void DeviceState::store(int id, const Value &value)
 
 void DeviceState::storeSelected(int id, qint64 selection, const Value &value)
 {
-    QHash<qint64, Value> &values = m_image.selections[id];
+    QHash<qint64, Value> &values = m_image.selections[id]; // clazy:exclude=detaching-member
     const auto present = values.constFind(selection);
     if (present != values.cend() && *present == value)
         return;
     values.insert(selection, value);
+    // A value behind the selector is not seen until it is selected.
     if (selection == selectorValue(id))
         markChanged(id);
 }
@@ -262,6 +264,7 @@ void DeviceState::saveUserSet(qint64 set)
 
 void DeviceState::loadUserSet(qint64 set)
 {
+    // A set that was never saved holds what the maker put there.
     const Image image = m_userSets.value(set, m_initial);
     for (int id = 0; id < m_description->size(); ++id) {
         if (!belongsToUserSet(id))

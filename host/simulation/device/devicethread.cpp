@@ -45,9 +45,11 @@ void DeviceThread::run()
     std::unique_lock<std::mutex> lock(m_mutex);
     while (!m_isFinished) {
         m_isAwake = false;
+        // The device takes a lock of its own; holding both could stand still with `wake`.
         lock.unlock();
         const Clock::time_point now = Clock::now();
         const auto elapsed = std::chrono::duration_cast<std::chrono::milliseconds>(now - last);
+        // Not `now`: the part below a millisecond counts for the next round.
         last += elapsed;
         const bool isBusy = m_tick(static_cast<int>(elapsed.count()));
         lock.lock();

@@ -99,6 +99,7 @@ void SimulatedDevice::verifyWrite(int id, const Value &value) const
                                              QStringLiteral("the value lies between two steps"));
         break;
     case ParameterType::Float:
+        // Written so that it refuses what is not a number as well.
         if (!(numberOf(value) >= numberOf(limits.minimum)
               && numberOf(value) <= numberOf(limits.maximum)))
             refuse<InvalidArgumentException>(*m_description, id,
@@ -142,6 +143,7 @@ QVector<int> SimulatedDevice::execute(int id)
         if (!isWritable(m_state.access(id)))
             refuse<GenICam::GenericException>(*m_description, id,
                                               QStringLiteral("cannot be executed now"));
+        // What the camera did meanwhile is none of the command's doing.
         collectChanges();
         const FeatureDescription &feature = m_description->feature(id);
         const int duration = feature.rules ? feature.rules->durationMs : 0;
@@ -194,6 +196,7 @@ void SimulatedDevice::advance(int elapsedMs)
         isToBeAnnounced = !m_isAnnounced && !(m_changes.isEmpty() && m_attachedTrees.isEmpty());
         m_isAnnounced = m_isAnnounced || isToBeAnnounced;
     }
+    // Outside the lock, for the listener may come straight back.
     if (isToBeAnnounced)
         m_announce();
 }
@@ -201,7 +204,8 @@ void SimulatedDevice::advance(int elapsedMs)
 void SimulatedDevice::advanceCommands(int elapsedMs)
 {
     QVector<int> finished;
-    for (auto it = m_commands.begin(); it != m_commands.end(); ++it) {
+    const auto end = m_commands.end(); // clazy:exclude=detaching-member
+    for (auto it = m_commands.begin(); it != end; ++it) { // clazy:exclude=detaching-member
         *it -= elapsedMs;
         if (*it <= 0)
             finished.append(it.key());
@@ -212,6 +216,7 @@ void SimulatedDevice::advanceCommands(int elapsedMs)
 
 void SimulatedDevice::finishCommand(int id)
 {
+    // Idle first: an effect such as a reset may look at what still runs.
     m_commands.remove(id);
     m_state.setRunning(id, false);
     applyEffect(m_state, id);

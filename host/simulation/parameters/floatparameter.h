@@ -10,7 +10,9 @@
 namespace Simulation {
 
 /// A floating point number of the device.
-class FloatParameter final : public TypedParameter<ParameterCollection::IFloatParameter>
+// Its base is a template, so its meta object is that of the interface.
+class FloatParameter final // clazy:exclude=missing-qobject-macro
+    : public TypedParameter<ParameterCollection::IFloatParameter>
 {
 public:
     using TypedParameter::TypedParameter;

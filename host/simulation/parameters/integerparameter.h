@@ -10,7 +10,9 @@
 namespace Simulation {
 
 /// An integer of the device, or the companion of a float.
-class IntegerParameter final : public TypedParameter<ParameterCollection::IIntegerParameter>
+// Its base is a template, so its meta object is that of the interface.
+class IntegerParameter final // clazy:exclude=missing-qobject-macro
+    : public TypedParameter<ParameterCollection::IIntegerParameter>
 {
 public:
     using TypedParameter::TypedParameter;

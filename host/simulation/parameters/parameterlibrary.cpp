@@ -17,7 +17,9 @@ namespace Simulation {
 
 ParameterLibrary::ParameterLibrary(QSharedPointer<const DeviceDescription> description)
     : m_device(std::move(description),
-               [this] { QMetaObject::invokeMethod(this, "takeFromDevice", Qt::QueuedConnection); })
+               [this] { // By name: such an event is made and read within Qt, whatever the thread.
+                   QMetaObject::invokeMethod(this, "takeFromDevice", Qt::QueuedConnection);
+               })
     , m_publisher([this](int id, const Snapshot &snapshot) { deliver(id, snapshot); })
     , m_cores(static_cast<std::size_t>(m_device.description().size()), nullptr)
 {
@@ -197,6 +199,7 @@ void ParameterLibrary::submit(int id, const std::function<QVector<int>()> &opera
         restore(id);
         throw;
     }
+    // The device has spoken: what was only pretended is over.
     m_faults.forgetForcedValue(fullName);
     const QVector<int> always = withDependants({id});
     renewAndPublish(always + withDependants(changes), always);
@@ -281,6 +284,7 @@ void ParameterLibrary::publish(const QVector<int> &ids)
 
 void ParameterLibrary::deliver(int id, const Snapshot &snapshot)
 {
+    // When deferred, the world may have changed since the snapshot was made.
     if (!m_isLive || !core(id) || !core(id)->hasReceivers())
         return;
     m_counters.count(description().fullName(id), &AccessCounts::publications);

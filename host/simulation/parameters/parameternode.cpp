@@ -42,7 +42,7 @@ QString textOf(const FeatureDescription &feature, const QString &key)
         return visibilityName(feature.visibility);
     if (key == QLatin1String("AccessMode"))
         return accessName(feature.access);
-    return QString();
+    return {};
 }
 
 } // namespace

@@ -25,7 +25,7 @@ void Publisher::publish(int id, const Snapshot &snapshot)
         return;
     }
     if (m_queue.isEmpty())
-        QMetaObject::invokeMethod(this, &Publisher::flush, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, "flush", Qt::QueuedConnection);
     m_queue.append({id, snapshot});
 }
 

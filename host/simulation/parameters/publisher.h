@@ -34,9 +34,10 @@ public:
     /// Forgets what has not been handed on.
     void discard();
 
-private:
+private Q_SLOTS:
     void flush();
 
+private:
     Sink m_sink;
     Publication m_publication = Publication::Immediate;
     QVector<std::pair<int, Snapshot>> m_queue;

@@ -95,7 +95,7 @@ public:
     }
 
 protected:
-    void connectNotify(const QMetaMethod &signal) override
+    void connectNotify(const QMetaMethod &signal) override // clazy:exclude=function-args-by-value
     {
         if (signal == changeSignal())
             library().counters().count(fullName(), &AccessCounts::subscriptions);

@@ -107,7 +107,7 @@ QString textOfInteger(qint64 value, const QString &representation)
 QString textOfBytes(const QByteArray &bytes)
 {
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    const QString text =
+    QString text =
         QTextCodec::codecForMib(utf8Mib)->toUnicode(bytes.constData(), bytes.size(), &state);
     if (state.invalidChars > 0 || state.remainingChars > 0)
         return QString::fromLatin1(bytes);
@@ -130,7 +130,7 @@ QString textOfValue(const FeatureDescription &feature, const Value &value)
     case ParameterType::Command:
         return QStringLiteral("0");
     default:
-        return QString();
+        return {};
     }
 }
 

@@ -17,7 +17,8 @@ inline constexpr const char *UserTabFeatureVisiblePrefix = "UserTabFeatureVisibl
 inline constexpr const char *UserTabFeatureAvailablePrefix = "UserTabFeatureAvailable"; ///< bool
 inline constexpr const char *FeatureColumnWidthPrefix = "FeatureColumnWidth"; ///< pixels
 inline constexpr const char *CategoryColumnWidth = "CategoryColumnWidth"; ///< pixels
-inline constexpr const char *ConnectedFeatureColumnWidth = "ConnectedFeatureColumnWidth"; ///< pixels
+inline constexpr const char *ConnectedFeatureColumnWidth =
+    "ConnectedFeatureColumnWidth"; ///< pixels
 inline constexpr const char *DisplayNameCache = "DisplayNameCache"; ///< "name:text;" repeated
 
 // Reserved: nothing reads or writes them.

@@ -15,11 +15,11 @@ CaughtException currentException()
     try {
         throw;
     } catch (const GenICam::GenericException &e) {
-        return { ExceptionKind::GenICam, QString::fromUtf8(e.what()) };
+        return {ExceptionKind::GenICam, QString::fromUtf8(e.what())};
     } catch (const std::exception &e) {
-        return { ExceptionKind::Standard, QString::fromUtf8(e.what()) };
+        return {ExceptionKind::Standard, QString::fromUtf8(e.what())};
     } catch (const Core::Exception::BaseException &e) {
-        return { ExceptionKind::Host, QString::fromUtf8(e.what()) };
+        return {ExceptionKind::Host, QString::fromUtf8(e.what())};
     } catch (...) {
         return {};
     }

@@ -27,8 +27,7 @@ CaughtException currentException();
 
 /// Runs `action`; an exception ends in `onException(const CaughtException &)`. True when the action
 /// came to its end.
-template<typename Action, typename Handler>
-bool runGuarded(Action &&action, Handler &&onException)
+template<typename Action, typename Handler> bool runGuarded(Action &&action, Handler &&onException)
 {
     try {
         action();
@@ -40,8 +39,7 @@ bool runGuarded(Action &&action, Handler &&onException)
 }
 
 /// Runs `action` and drops an exception. True when the action came to its end.
-template<typename Action>
-bool runGuarded(Action &&action)
+template<typename Action> bool runGuarded(Action &&action)
 {
     return runGuarded(action, [](const CaughtException &) {});
 }

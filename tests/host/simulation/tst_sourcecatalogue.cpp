@@ -213,6 +213,7 @@ void TestSourceCatalogue::balancesAllColours()
     QTRY_COMPARE(collection->deviceValue(cameraPath("BalanceWhiteAuto")),
                  QVariant(QStringLiteral("Off")));
     QStringList ratios;
+    ratios.reserve(3);
     for (const char *colour : {"Red", "Green", "Blue"}) {
         selector->setFromString(QString::fromLatin1(colour));
         ratios.append(QString::number(collection->deviceValue(ratio->fullName()).toDouble()));

@@ -38,6 +38,7 @@ std::unique_ptr<Behaviour> makeBehaviour(const DeviceDescription &description, i
 std::vector<std::unique_ptr<Behaviour>> makeBehaviours(const DeviceDescription &description)
 {
     std::vector<std::unique_ptr<Behaviour>> behaviours;
+    behaviours.reserve(static_cast<std::size_t>(description.size()));
     for (int id = 0; id < description.size(); ++id) {
         const auto &rules = description.feature(id).rules;
         if (rules && !rules->behaviour.kind.isEmpty())

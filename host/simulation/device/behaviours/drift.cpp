@@ -22,6 +22,7 @@ Drift::Drift(int id, const QJsonObject &parameters)
 void Drift::advance(DeviceState &state, int elapsedMs)
 {
     m_timeMs += elapsedMs;
+    // A sine, so that tests and pictures see the same course each time.
     const double value = m_middle + m_amplitude * std::sin(2.0 * M_PI * m_timeMs / m_periodMs);
     state.change(m_id, state.pulledIn(m_id, state.numberAs(m_id, value)));
 }

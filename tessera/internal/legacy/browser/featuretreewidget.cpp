@@ -4,9 +4,9 @@
 #include "featuretreewidget.h"
 
 #include "featuretext.h"
+#include "plainvaluedelegate.h"
 #include "shownrows.h"
 
-#include "internal/legacy/tree/featuretreedelegate.h"
 #include "internal/legacy/tree/featuretreeinodeitem.h"
 #include "internal/legacy/tree/featuretreemodel.h"
 #include "plugin/constants/objectnames.h"
@@ -44,7 +44,7 @@ FeatureTreeWidget::FeatureTreeWidget(QString filterSubPath,
     m_treeView->setEditTriggers(QAbstractItemView::DoubleClicked
                                 | QAbstractItemView::EditKeyPressed);
     m_treeView->setUniformRowHeights(true);
-    m_treeView->setItemDelegate(new FeatureTreeDelegate(m_treeView, m_model));
+    m_treeView->setItemDelegate(new PlainValueDelegate(m_treeView, m_model));
     attachView();
     m_treeView->header()->setSectionResizeMode(QHeaderView::Stretch);
     m_shownRows = new ShownRows(m_treeView, m_model, this);

@@ -3,103 +3,191 @@
 
 #include "featuretreedelegate.h"
 
+#include "featurenamepainter.h"
 #include "featuretreeinodeitem.h"
 #include "featuretreemodelextension.h"
-#include "itemeditorkind.h"
+#include "itemeditortable.h"
 
-#include "plugin/contract/parametercollection/parameterdata.h"
+#include "internal/legacy/editors/abstractitemeditor.h"
+#include "internal/legacy/editors/inteditor.h"
+#include "plugin/constants/logcategories.h"
+#include "plugin/contract/core/logging.h"
+#include "plugin/contract/viewer/stylehelper.h"
+#include "plugin/services/exceptionbarrier.h"
 
-#include <QLineEdit>
-#include <QLocale>
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QScopeGuard>
+#include <QScreen>
 #include <QTextDocumentFragment>
 
 namespace {
 
-// A group separator is refused: in many locales it is the point of another one's decimals.
-QLocale numberLocale(const QWidget *editor)
+void logFault(const QString &text)
 {
-    QLocale locale = editor->locale();
-    locale.setNumberOptions(QLocale::OmitGroupSeparator | QLocale::RejectGroupSeparator);
-    return locale;
+    static const quint64 category =
+        Core::Logging::getCatId(Plugin::Tessera::LogCategories::NodeItem);
+    Core::Logging::createLogEntry(Core::Logging::ELogLevel::Fault, category, text);
 }
 
-QString editText(const FeatureTreeINodeItem &item, const QWidget *editor)
+bool isHighResolution()
 {
-    QString text = item.parameterData()->valueText;
-    if (isFloatKind(item.editorKind())) {
-        text.replace(QLatin1Char('.'), numberLocale(editor).decimalPoint());
-    }
-    return text;
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen && screen->logicalDotsPerInch() / 96.0 > 1.0;
 }
 
 } // namespace
 
-FeatureTreeDelegate::FeatureTreeDelegate(QObject *parent, IFeatureTreeModelExtension *model)
+FeatureTreeDelegate::FeatureTreeDelegate(QObject *parent, IFeatureTreeModelExtension *model,
+                                         const QString *searchText)
     : QStyledItemDelegate(parent)
     , m_model(model)
+    , m_searchText(searchText)
 {
 }
 
 FeatureTreeDelegate::~FeatureTreeDelegate() = default;
 
+void FeatureTreeDelegate::setShowTreeView(bool showTreeView)
+{
+    m_showTreeView = showTreeView;
+}
+
+FeatureTreeINodeItem *FeatureTreeDelegate::nodeItem(const QModelIndex &index) const
+{
+    return qobject_cast<FeatureTreeINodeItem *>(m_model->itemFromIndex(index));
+}
+
+void FeatureTreeDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                                const QModelIndex &index) const
+{
+    if (index.column() != 0 || !m_searchText) {
+        QStyledItemDelegate::paint(painter, option, index);
+        return;
+    }
+    QStyleOptionViewItem complete(option);
+    initStyleOption(&complete, index);
+    FeatureNamePainter(complete, index, m_searchText->trimmed(), m_showTreeView).paint(*painter);
+}
+
+QSize FeatureTreeDelegate::sizeHint(const QStyleOptionViewItem &option,
+                                    const QModelIndex &index) const
+{
+    QSize size = QStyledItemDelegate::sizeHint(option, index);
+    if (isHighResolution()) {
+        QFont font = option.font;
+        font.setFamily(QStringLiteral("Segoe UI"));
+        font.setPixelSize(CStyleHelper::computePixelFontSize(12));
+        size.setHeight(QFontMetrics(font).height() + 4);
+    }
+    return size;
+}
+
 QWidget *FeatureTreeDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                                            const QModelIndex &index) const
 {
-    Q_UNUSED(option)
-    const FeatureTreeINodeItem *item = index.column() == 1 ? nodeItem(index) : nullptr;
-    if (!item || item->accessMode() < 2 || !item->parameterData()->isWritable) {
+    const FeatureTreeINodeItem *item = nodeItem(index);
+    if (!item || item->accessMode() < 2) {
         return nullptr;
     }
-    auto *editor = new QLineEdit(parent);
-    editor->setFrame(false);
-    editor->setAccessibleName(item->text());
-    const QString toolTip = item->data(0, Qt::ToolTipRole).toString();
-    editor->setAccessibleDescription(QTextDocumentFragment::fromHtml(toolTip).toPlainText());
+    QWidget *editor = nullptr;
+    Plugin::Tessera::runGuarded([&] { editor = createValueEditor(*item, parent, option, index); },
+                                [&](const Plugin::Tessera::CaughtException &e) {
+                                    logFault(QStringLiteral("Failed to create an editor for %1: %2")
+                                                 .arg(item->fullName(), e.message));
+                                });
+    if (editor) {
+        describe(editor, *item);
+    }
     return editor;
 }
 
-// What the user has begun to type is not overwritten.
+void FeatureTreeDelegate::describe(QWidget *editor, const FeatureTreeINodeItem &item)
+{
+    editor->setAccessibleName(item.text());
+    const QString toolTip = item.data(0, Qt::ToolTipRole).toString();
+    editor->setAccessibleDescription(QTextDocumentFragment::fromHtml(toolTip).toPlainText());
+}
+
+QWidget *FeatureTreeDelegate::createValueEditor(const FeatureTreeINodeItem &item, QWidget *parent,
+                                                const QStyleOptionViewItem &option,
+                                                const QModelIndex &index) const
+{
+    const ItemEditorRow *row = itemEditorRowFor(item);
+    QWidget *editor = row ? row->create(item, *this, parent) : nullptr;
+    if (!editor && (!row || row->fallsBackToText)) {
+        editor = QStyledItemDelegate::createEditor(parent, option, index);
+    }
+    return editor;
+}
+
+// A snapshot or a dialog may close an editor in the middle of its commit, while the view still
+// uses it.
+void FeatureTreeDelegate::destroyEditor(QWidget *editor, const QModelIndex &index) const
+{
+    Q_UNUSED(index)
+    if (m_commits > 0) {
+        m_closedEditors.append(editor);
+    } else {
+        editor->deleteLater();
+    }
+}
+
 void FeatureTreeDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
 {
-    const FeatureTreeINodeItem *item = nodeItem(index);
-    auto *edit = qobject_cast<QLineEdit *>(editor);
-    if (item && edit && !edit->isModified()) {
-        edit->setText(editText(*item, edit));
+    if (index.column() != 1) {
+        QStyledItemDelegate::setEditorData(editor, index);
+        return;
+    }
+    const bool isInUse = editor->hasFocus();
+    const FeatureTreeItem *item = m_model->itemFromIndex(index);
+    const FeatureTreeINodeItem *feature = nodeItem(index);
+    auto *itemEditor = dynamic_cast<AbstractItemEditor *>(editor);
+    if (itemEditor && feature) {
+        itemEditor->updateEditor({feature->parameter(), feature->parameterData()});
+    } else if (item && !isInUse) {
+        QStyledItemDelegate::setEditorData(editor, index);
     }
 }
 
 void FeatureTreeDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
                                        const QModelIndex &index) const
 {
-    const FeatureTreeINodeItem *item = nodeItem(index);
-    const auto *edit = qobject_cast<QLineEdit *>(editor);
-    if (!item || !edit || !edit->isModified()) {
-        return;
+    ++m_commits;
+    const auto end = qScopeGuard([this] { endCommit(); });
+    writeValue(editor, model, index);
+}
+
+void FeatureTreeDelegate::writeValue(QWidget *editor, QAbstractItemModel *model,
+                                     const QModelIndex &index) const
+{
+    const auto *integerEditor = qobject_cast<IntEditor *>(editor);
+    if (integerEditor && integerEditor->showsNotReadable()) {
+        return; // a text in place of the value is none
     }
-    if (!isFloatKind(item->editorKind())) {
-        model->setData(index, edit->text(), Qt::EditRole);
-        return;
-    }
-    bool isNumber = false;
-    const double number = numberLocale(edit).toDouble(edit->text().trimmed(), &isNumber);
-    if (isNumber) {
-        model->setData(index, number, Qt::EditRole);
+    const auto *itemEditor = dynamic_cast<AbstractItemEditor *>(editor);
+    if (index.column() == 1 && itemEditor) {
+        model->setData(index, itemEditor->editorValue(), Qt::EditRole);
+    } else {
+        QStyledItemDelegate::setModelData(editor, model, index);
     }
 }
 
-// Rows whose kind has an editor widget of its own answer no display text.
-void FeatureTreeDelegate::initStyleOption(QStyleOptionViewItem *option,
-                                          const QModelIndex &index) const
+void FeatureTreeDelegate::endCommit() const
 {
-    QStyledItemDelegate::initStyleOption(option, index);
-    const FeatureTreeINodeItem *item = index.column() == 1 ? nodeItem(index) : nullptr;
-    if (item && item->hasInlineEditor() && !index.data().isValid() && item->parameterData()) {
-        option->features |= QStyleOptionViewItem::HasDisplay;
-        option->text = item->parameterData()->valueText;
+    --m_commits;
+    if (m_commits > 0) {
+        return;
     }
+    for (const QPointer<QWidget> &editor : qAsConst(m_closedEditors)) {
+        if (editor) {
+            editor->deleteLater();
+        }
+    }
+    m_closedEditors.clear();
 }
 
-FeatureTreeINodeItem *FeatureTreeDelegate::nodeItem(const QModelIndex &index) const
+void FeatureTreeDelegate::emitCommitData()
 {
-    return qobject_cast<FeatureTreeINodeItem *>(m_model->itemFromIndex(index));
+    Q_EMIT commitData(qobject_cast<QWidget *>(sender()));
 }

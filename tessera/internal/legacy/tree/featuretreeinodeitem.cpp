@@ -37,11 +37,6 @@ void logFault(const QString &text)
     Core::Logging::createLogEntry(Core::Logging::ELogLevel::Fault, category, text);
 }
 
-QString unknownName()
-{
-    return QStringLiteral("Unknown");
-}
-
 } // namespace
 
 FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> collection,
@@ -77,11 +72,11 @@ FeatureTreeINodeItem::~FeatureTreeINodeItem() = default;
 void FeatureTreeINodeItem::loadValues()
 {
     setChildrenLoaded(true);
-    m_displayName = unknownName();
-    m_shortName = unknownName();
     m_parameterData = QSharedPointer<ParameterData>::create();
     setEditorKind(ItemEditorKind::NoParameter);
     if (!isUsable()) {
+        m_displayName = QStringLiteral("Unknown");
+        m_shortName = m_displayName;
         return;
     }
     runGuarded([this] { readProperties(); });

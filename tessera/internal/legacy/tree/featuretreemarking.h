@@ -13,7 +13,7 @@ class FeatureTreeItem;
 class FavoriteNames
 {
 public:
-    explicit FavoriteNames(const QStringList &names);
+    explicit FavoriteNames(const QStringList &names = {});
 
     bool contains(const QString &fullName) const;
 

@@ -6,6 +6,7 @@
 #include "featuretreeinodeitem.h"
 #include "featuretreeloader.h"
 #include "featuretreemarking.h"
+#include "nameditems.h"
 
 #include "plugin/constants/logcategories.h"
 #include "plugin/constants/mimetypes.h"
@@ -29,17 +30,6 @@ void logFault(int line, const QString &text)
         Core::Logging::getCatId(Plugin::Tessera::LogCategories::TreeModel);
     Core::Logging::createLogEntry(Core::Logging::ELogLevel::Fault, category,
                                   QStringLiteral("featuretreemodel %1 %2").arg(line).arg(text));
-}
-
-void collectNamed(FeatureTreeItem *item, QStringList &names, QList<FeatureTreeItem *> &found)
-{
-    if (names.removeOne(item->fullName())) {
-        found.append(item);
-    }
-    const int count = names.isEmpty() ? 0 : item->childCount();
-    for (int row = 0; row < count && !names.isEmpty(); ++row) {
-        collectNamed(item->child(row), names, found);
-    }
 }
 
 void invalidate(const IParameter &parameter)
@@ -361,11 +351,7 @@ QModelIndex FeatureTreeModel::indexOfRoleValue(int role, const QVariant &value,
 
 QList<FeatureTreeItem *> FeatureTreeModel::itemsForNames(QStringList &names)
 {
-    QList<FeatureTreeItem *> found;
-    for (int row = 0; FeatureTreeItem *top = m_rootItem->child(row); ++row) {
-        collectNamed(top, names, found);
-    }
-    return found;
+    return takeNamedItems(*m_rootItem, names);
 }
 
 void FeatureTreeModel::markFavorites(const QStringList &names)

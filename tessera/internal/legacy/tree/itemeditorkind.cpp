@@ -13,14 +13,7 @@ namespace {
 
 bool hasSlider(const ParameterCollection::IParameter &parameter)
 {
-    const QSharedPointer<ParameterCollection::IParameterNode> node = parameter.node();
-    if (!node) {
-        return false;
-    }
-    const QString representation =
-        node->property(QLatin1String(ParameterProperties::Representation));
-    return representation == QLatin1String("Linear")
-        || representation == QLatin1String("Logarithmic");
+    return isSliderRepresentation(representationOf(parameter));
 }
 
 qint32 kindOf(const ParameterCollection::IParameter &parameter)
@@ -69,4 +62,16 @@ qint32 editorKindFor(const ParameterCollection::IParameter &parameter)
     qint32 kind = ItemEditorKind::NoEditor;
     Plugin::Tessera::runGuarded([&] { kind = kindOf(parameter); });
     return kind;
+}
+
+QString representationOf(const ParameterCollection::IParameter &parameter)
+{
+    const QSharedPointer<ParameterCollection::IParameterNode> node = parameter.node();
+    return node ? node->property(QLatin1String(ParameterProperties::Representation)) : QString();
+}
+
+bool isSliderRepresentation(const QString &representation)
+{
+    return representation == QLatin1String("Linear")
+        || representation == QLatin1String("Logarithmic");
 }

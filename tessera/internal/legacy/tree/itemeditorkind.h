@@ -8,6 +8,7 @@
 namespace ParameterCollection {
 class IParameter;
 }
+class QString;
 
 /// Which editor a row gets, with the numbers that items, delegate and models exchange.
 namespace ItemEditorKind {
@@ -37,3 +38,10 @@ bool isFloatKind(qint32 editorKind);
 
 /// The kind for `parameter`: `NoEditor` when it cannot be found out.
 qint32 editorKindFor(const ParameterCollection::IParameter &parameter);
+
+/// How the values of `parameter` are meant to be shown, such as "Linear" or "HexNumber". What the
+/// parameter library throws comes out.
+QString representationOf(const ParameterCollection::IParameter &parameter);
+
+/// True for a representation that is shown with a slider.
+bool isSliderRepresentation(const QString &representation);

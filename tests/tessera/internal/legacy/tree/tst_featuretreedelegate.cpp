@@ -1,21 +1,33 @@
 // SPDX-FileCopyrightText: 2026 Tessera contributors
 // SPDX-License-Identifier: MIT
 
+// Connections end with the test function.
+// clazy:excludeall=lambda-in-connect
+
 #include "internal/legacy/tree/featuretreedelegate.h"
 
+#include "internal/legacy/editors/checkboxeditor.h"
 #include "internal/legacy/tree/featuretreeinodeitem.h"
 #include "internal/legacy/tree/featuretreemodel.h"
+#include "plugin/contract/viewer/stylehelper.h"
 #include "support/fakecollection.h"
 #include "support/treetext.h"
 #include "support/warningguard.h"
 
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QComboBox>
 #include <QLineEdit>
+#include <QPointer>
+#include <QScreen>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTreeView>
 
 #include <memory>
 
 using Core::Logging::ELogLevel;
+using Tests::Fault;
 using Tests::findRow;
 
 class tst_FeatureTreeDelegate : public QObject
@@ -25,21 +37,32 @@ class tst_FeatureTreeDelegate : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
-    void writesWhatIsTyped_data();
-    void writesWhatIsTyped();
-    void opensNoEditorForWhatCannotBeWritten_data();
-    void opensNoEditorForWhatCannotBeWritten();
-    void writesNothingWithoutAnEdit();
-    void refusesTextThatIsNoNumber_data();
-    void refusesTextThatIsNoNumber();
-    void readsNumbersInTheLocaleOfTheWidget();
-    void keepsWhatIsBeingTyped();
-    void fallsBackWhenTheDeviceRefuses();
-    void namesTheEditorForScreenReaders();
-    void drawsValuesThatEditorsWillShow();
+    void choosesTheEditor_data();
+    void choosesTheEditor();
+    void logsWhatThePropertiesThrow_data();
+    void logsWhatThePropertiesThrow();
+    void writesWhatTheUserDoes_data();
+    void writesWhatTheUserDoes();
+    void writesNoTextThatStandsForAValue();
+    void leavesATextAloneThatIsBeingTyped();
+    void showsASnapshotInAnEditorThatDecidesForItself();
+    void keepsAnEditorThatClosesInsideItsCommit();
+    void deletesAnEditorThatClosesOtherwise();
+    void commitsNothingForASenderThatIsNoWidget();
+    void describesEditorsToScreenReaders();
+    void givesRowsTheHeightOfTheFont();
 
 private:
-    QLineEdit *open(const QString &line);
+    void add(const QString &lines);
+    QWidget *open();
+    QModelIndex index() const
+    {
+        return findRow(*m_model, QStringLiteral("F"), 1);
+    }
+    FeatureTreeINodeItem *item() const
+    {
+        return qobject_cast<FeatureTreeINodeItem *>(m_model->itemFromIndex(index()));
+    }
     Tests::FakeNode &node() const
     {
         return m_collection->node(QStringLiteral("@CameraDevice/F"));
@@ -48,6 +71,8 @@ private:
     QSharedPointer<Tests::FakeCollection> m_collection;
     std::unique_ptr<FeatureTreeModel> m_model;
     std::unique_ptr<QTreeView> m_view;
+    FeatureTreeDelegate *m_delegate = nullptr; // by parent
+    QString m_searchText;
     Tests::WarningGuard m_guard;
 };
 
@@ -58,11 +83,14 @@ void tst_FeatureTreeDelegate::init()
     m_model = std::make_unique<FeatureTreeModel>();
     m_view = std::make_unique<QTreeView>();
     m_view->setLocale(QLocale::c());
-    m_view->setItemDelegate(new FeatureTreeDelegate(m_view.get(), m_model.get()));
+    m_delegate = new FeatureTreeDelegate(m_view.get(), m_model.get(), &m_searchText);
+    m_view->setItemDelegate(m_delegate);
     m_view->setModel(m_model.get());
     m_view->setEditTriggers(QAbstractItemView::DoubleClicked);
-    m_view->resize(400, 300);
+    m_view->resize(600, 300);
     m_view->show();
+    m_view->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_view.get()));
 }
 
 void tst_FeatureTreeDelegate::cleanup()
@@ -72,180 +100,228 @@ void tst_FeatureTreeDelegate::cleanup()
     m_guard.verify();
 }
 
-// Shows a feature "F" and double-clicks its value. Null where no editor opens.
-QLineEdit *tst_FeatureTreeDelegate::open(const QString &line)
+// Shows the features; the first is "F" and has been read.
+void tst_FeatureTreeDelegate::add(const QString &lines)
 {
-    m_collection->attach(QStringLiteral("@CameraDevice"), QStringLiteral("F ") + line);
+    m_collection->attach(QStringLiteral("@CameraDevice"), lines);
     m_model->addParameterCollection(m_collection, QStringLiteral("Camera"),
                                     QStringLiteral("@CameraDevice"), true);
     m_view->expandAll();
-    const QModelIndex index = findRow(*m_model, QStringLiteral("F"), 1);
-    auto *item = qobject_cast<FeatureTreeINodeItem *>(m_model->itemFromIndex(index));
-    item->subscribe();
-    item->requestRefresh();
-    const QPoint centre = m_view->visualRect(index).center();
-    QTest::mouseClick(m_view->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
-    QTest::mouseDClick(m_view->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
-    return m_view->viewport()->findChild<QLineEdit *>();
-}
-
-void tst_FeatureTreeDelegate::writesWhatIsTyped_data()
-{
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("start");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<bool>("delayed");
-    for (const bool delayed : {false, true}) {
-        const char *how = delayed ? ", published later" : "";
-        QTest::addRow("integer%s", how) << "Integer 640"
-                                        << "640"
-                                        << "800"
-                                        << "800" << delayed;
-        QTest::addRow("linear integer%s", how) << "Integer 640 rep=Linear"
-                                               << "640"
-                                               << "800"
-                                               << "800" << delayed;
-        QTest::addRow("float%s", how) << "Float 1.5"
-                                      << "1.5"
-                                      << "2.25"
-                                      << "2.25" << delayed;
-        QTest::addRow("linear float%s", how) << "Float 1.5 rep=Linear"
-                                             << "1.5"
-                                             << "1e1"
-                                             << "10" << delayed;
-        QTest::addRow("switch%s", how) << "Boolean 0"
-                                       << "0"
-                                       << "1"
-                                       << "1" << delayed;
-        QTest::addRow("enumeration%s", how) << "Enum Off entries=Off,On"
-                                            << "Off"
-                                            << "On"
-                                            << "On" << delayed;
-        QTest::addRow("string%s", how) << "String hi"
-                                       << "hi"
-                                       << "you"
-                                       << "you" << delayed;
+    m_view->setColumnWidth(0, 200);
+    if (auto *feature = item()) {
+        feature->subscribe();
+        feature->requestRefresh();
     }
 }
 
-void tst_FeatureTreeDelegate::writesWhatIsTyped()
+// By a double click, as a user does. Null where no editor opens.
+QWidget *tst_FeatureTreeDelegate::open()
 {
-    QFETCH(QString, typed);
-    QFETCH(QString, line);
-    QFETCH(bool, delayed);
-    QLineEdit *editor = open(line);
-    QVERIFY(editor);
-    m_collection->setDelayed(delayed);
-    QTEST(editor->text(), "start");
-    QTest::keyClicks(editor, typed);
-    QTest::keyClick(editor, Qt::Key_Return);
-    QTRY_VERIFY(!m_view->viewport()->findChild<QLineEdit *>());
-    QTEST(node().valueText(), "value");
-    QCOMPARE(node().writes.size(), 1);
+    const QPoint centre = m_view->visualRect(index()).center();
+    QTest::mouseClick(m_view->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
+    QTest::mouseDClick(m_view->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
+    return m_view->indexWidget(index());
 }
 
-void tst_FeatureTreeDelegate::opensNoEditorForWhatCannotBeWritten_data()
+void tst_FeatureTreeDelegate::choosesTheEditor_data()
+{
+    QTest::addColumn<QString>("lines");
+    QTest::addColumn<QByteArray>("editor");
+    const auto row = [](const char *name, const char *lines, const char *editor) {
+        QTest::newRow(name) << QString::fromLatin1(lines) << QByteArray(editor);
+    };
+    row("integer", "F Integer 1", "IntEditor");
+    row("hexadecimal integer", "F Integer 1 rep=HexNumber", "IntEditor");
+    row("linear integer", "F Integer 1 rep=Linear", "IntSliderEditor");
+    row("logarithmic integer", "F Integer 1 rep=Logarithmic", "IntSliderEditor");
+    row("float", "F Float 1", "FloatEditor");
+    row("linear float without a companion", "F Float 1 rep=Linear", "FloatEditor");
+    row("linear float", "F Float 1 rep=Linear\nF/Alias Integer 1", "FloatSliderEditor");
+    row("logarithmic float", "F Float 1 rep=Logarithmic\nF/Alias Integer 1", "FloatSliderEditor");
+    row("float with a companion", "F Float 1 rep=PureNumber\nF/Alias Integer 1", "FloatEditor");
+    row("enumeration", "F Enum A entries=A,B", "EnumEditor");
+    row("locked enumeration", "F Enum A entries=A,B ro", "EnumEditor");
+    row("switch", "F Boolean 1", "CheckBoxEditor");
+    row("command", "F Command", "ToolButtonEditor");
+    row("text", "F String a", "QExpandingLineEdit");
+    row("secret", "F String a wo", "QExpandingLineEdit");
+    row("not available", "F Boolean 1 na", "");
+    row("not implemented", "F Boolean 1 ni", "");
+}
+
+void tst_FeatureTreeDelegate::choosesTheEditor()
+{
+    QFETCH(QString, lines);
+    QFETCH(QByteArray, editor);
+    add(lines);
+    const std::unique_ptr<QWidget> made(
+        m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), index()));
+    QCOMPARE(QByteArray(made ? made->metaObject()->className() : ""), editor);
+    QVERIFY(!m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), QModelIndex()));
+}
+
+void tst_FeatureTreeDelegate::logsWhatThePropertiesThrow_data()
+{
+    Tests::addFaultRows();
+}
+
+void tst_FeatureTreeDelegate::logsWhatThePropertiesThrow()
+{
+    QFETCH(Tests::Fault, fault);
+    add(QStringLiteral("F Integer 1"));
+    node().onProperty = fault;
+    m_guard.expectLogEntry(
+        ELogLevel::Fault, QStringLiteral("vantrel.viewer.plugins.tessera.nodeItem"),
+        QRegularExpression(QStringLiteral("^Failed to create an editor for @CameraDevice/F: ")));
+    QVERIFY(!m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), index()));
+}
+
+void tst_FeatureTreeDelegate::writesWhatTheUserDoes_data()
 {
     QTest::addColumn<QString>("line");
-    QTest::newRow("locked") << "String hi ro";
-    QTest::newRow("locked number") << "Float 1 ro";
-    QTest::newRow("not available") << "Integer 1 na";
-    QTest::newRow("not implemented") << "Integer 1 ni";
-    QTest::newRow("category") << "";
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("value");
+    const auto row = [](const char *name, const char *line, const char *keys, const char *value) {
+        QTest::newRow(name) << QString::fromLatin1(line) << QString::fromLatin1(keys)
+                            << QString::fromLatin1(value);
+    };
+    row("switch", "F Boolean 0", " ", "1");
+    row("switch back", "F Boolean 1", " ", "0");
+    row("enumeration", "F Enum A entries=A,B,C", "b", "B");
+    row("enumeration to the end", "F Enum A entries=A,B,C", "c", "C");
+    row("command", "F Command", " ", "Done");
+    row("integer", "F Integer 4 rep=PureNumber", "7", "7");
+    row("float", "F Float 4 [0..9]", "7", "7");
+    row("text", "F String a", "b", "b");
 }
 
-void tst_FeatureTreeDelegate::opensNoEditorForWhatCannotBeWritten()
+void tst_FeatureTreeDelegate::writesWhatTheUserDoes()
 {
     QFETCH(QString, line);
-    QVERIFY(!open(line));
+    QFETCH(QString, keys);
+    QFETCH(QString, value);
+    add(line);
+    const QWidget *editor = open();
+    QVERIFY(editor);
+    QWidget *focus = QApplication::focusWidget();
+    QVERIFY(focus && (focus == editor || editor->isAncestorOf(focus)));
+    if (auto *edit = qobject_cast<QLineEdit *>(focus)) {
+        edit->selectAll();
+    } else if (auto *box = qobject_cast<QAbstractSpinBox *>(focus)) {
+        box->selectAll();
+    }
+    QTest::keyClicks(focus, keys);
+    QTest::keyClick(focus, Qt::Key_Return);
+    QCOMPARE(node().executions, editor->inherits("ToolButtonEditor") ? 1 : 0);
+    QTRY_COMPARE(node().valueText(), value);
 }
 
-void tst_FeatureTreeDelegate::writesNothingWithoutAnEdit()
+void tst_FeatureTreeDelegate::writesNoTextThatStandsForAValue()
 {
-    QLineEdit *editor = open(QStringLiteral("String hi wo"));
+    add(QStringLiteral("F Integer 4 rep=HexNumber"));
+    node().isReadable = false;
+    node().publish();
+    QPointer<QWidget> editor = open();
     QVERIFY(editor);
     QTest::keyClick(editor, Qt::Key_Return);
-    QTRY_VERIFY(!m_view->viewport()->findChild<QLineEdit *>());
-    QVERIFY(node().writes.isEmpty());
-}
-
-void tst_FeatureTreeDelegate::refusesTextThatIsNoNumber_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::newRow("word") << "abc";
-    QTest::newRow("group separator") << "1,000";
-    QTest::newRow("unit") << "2 dB";
-}
-
-void tst_FeatureTreeDelegate::refusesTextThatIsNoNumber()
-{
-    QFETCH(QString, typed);
-    QLineEdit *editor = open(QStringLiteral("Float 1.5"));
-    QTest::keyClicks(editor, typed);
+    QTRY_VERIFY(!editor);
+    QCOMPARE(node().writes, QStringList());
+    editor = open();
+    QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(editor, QStringLiteral("9"));
     QTest::keyClick(editor, Qt::Key_Return);
-    QTRY_VERIFY(!m_view->viewport()->findChild<QLineEdit *>());
-    QVERIFY(node().writes.isEmpty());
+    QTRY_COMPARE(node().writes, QStringList {QStringLiteral("9")});
 }
 
-void tst_FeatureTreeDelegate::readsNumbersInTheLocaleOfTheWidget()
+void tst_FeatureTreeDelegate::leavesATextAloneThatIsBeingTyped()
 {
-    m_view->setLocale(QLocale(QLocale::German));
-    QLineEdit *editor = open(QStringLiteral("Float 1.125"));
-    QCOMPARE(editor->text(), QStringLiteral("1,125"));
-    QTest::keyClicks(editor, QStringLiteral("2,5"));
-    QTest::keyClick(editor, Qt::Key_Return);
-    QTRY_VERIFY(!m_view->viewport()->findChild<QLineEdit *>());
-    QCOMPARE(node().valueText(), QStringLiteral("2.5"));
-}
-
-void tst_FeatureTreeDelegate::keepsWhatIsBeingTyped()
-{
-    QLineEdit *editor = open(QStringLiteral("String hi"));
-    QTest::keyClicks(editor, QStringLiteral("yo"));
-    node().text = "other";
+    add(QStringLiteral("F String old"));
+    auto *editor = qobject_cast<QLineEdit *>(open());
+    QVERIFY(editor && editor->hasFocus());
+    QTest::keyClicks(editor, QStringLiteral("typ"));
+    node().text = "device";
     node().publish();
-    m_view->itemDelegate()->setEditorData(editor, findRow(*m_model, QStringLiteral("F"), 1));
-    QCOMPARE(editor->text(), QStringLiteral("yo"));
-    QTest::keyClick(editor, Qt::Key_Escape);
-    QTRY_VERIFY(!m_view->viewport()->findChild<QLineEdit *>());
-    QVERIFY(node().writes.isEmpty());
+    m_delegate->setEditorData(editor, index());
+    QCOMPARE(editor->text(), QStringLiteral("typ"));
+    QLineEdit idle(m_view->viewport());
+    m_delegate->setEditorData(&idle, index());
+    QCOMPARE(idle.text(), QStringLiteral("device"));
 }
 
-void tst_FeatureTreeDelegate::fallsBackWhenTheDeviceRefuses()
+void tst_FeatureTreeDelegate::showsASnapshotInAnEditorThatDecidesForItself()
 {
-    QLineEdit *editor = open(QStringLiteral("Integer 5 [0..9]"));
-    m_guard.expectLogEntry(ELogLevel::Fault,
-                           QStringLiteral("vantrel.viewer.plugins.tessera.featureTreeModel"),
-                           QRegularExpression(QStringLiteral("Failed to set a feature value\\.$")));
-    QTest::keyClicks(editor, QStringLiteral("77"));
-    QTest::keyClick(editor, Qt::Key_Return);
-    QTRY_VERIFY(!m_view->viewport()->findChild<QLineEdit *>());
-    QCOMPARE(node().writes, QStringList(QStringLiteral("77")));
-    QCOMPARE(findRow(*m_model, QStringLiteral("F"), 1).data().toString(), QStringLiteral("5"));
+    add(QStringLiteral("F Enum A entries=A,B"));
+    auto *editor = qobject_cast<QComboBox *>(open());
+    QVERIFY(editor && editor->hasFocus());
+    QCOMPARE(editor->currentText(), QStringLiteral("A"));
+    node().text = "B";
+    node().publish();
+    m_delegate->setEditorData(editor, index());
+    QCOMPARE(editor->currentText(), QStringLiteral("B"));
 }
 
-void tst_FeatureTreeDelegate::namesTheEditorForScreenReaders()
+// A view still uses the editor after the delegate has written its value.
+void tst_FeatureTreeDelegate::keepsAnEditorThatClosesInsideItsCommit()
 {
-    const QLineEdit *editor = open(QStringLiteral("String hi tip=Says_something"));
+    add(QStringLiteral("F Boolean 0"));
+    QPointer<QWidget> editor = open();
+    connect(m_model.get(), &QAbstractItemModel::dataChanged, this, [&] {
+        m_delegate->destroyEditor(editor, index());
+        QCoreApplication::sendPostedEvents(editor, QEvent::DeferredDelete);
+        QVERIFY(editor);
+    });
+    QTest::mouseClick(editor, Qt::LeftButton, Qt::NoModifier, QPoint(8, editor->height() / 2));
+    QCOMPARE(node().valueText(), QStringLiteral("1"));
+    m_model->disconnect(this);
+    QTRY_VERIFY(!editor);
+}
+
+void tst_FeatureTreeDelegate::deletesAnEditorThatClosesOtherwise()
+{
+    add(QStringLiteral("F Boolean 0"));
+    const QPointer<QWidget> editor =
+        m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), index());
+    m_delegate->destroyEditor(editor, index());
+    QVERIFY(editor);
+    QTRY_VERIFY(!editor);
+}
+
+void tst_FeatureTreeDelegate::commitsNothingForASenderThatIsNoWidget()
+{
+    const QSignalSpy commits(m_delegate, &QAbstractItemDelegate::commitData);
+    m_delegate->emitCommitData();
+    QCOMPARE(commits.size(), 1);
+    QVERIFY(!commits.constFirst().constFirst().value<QWidget *>());
+    CheckBoxEditor box(nullptr);
+    connect(&box, &QAbstractButton::clicked, m_delegate, &FeatureTreeDelegate::emitCommitData);
+    box.click();
+    QCOMPARE(commits.constLast().constFirst().value<QWidget *>(), static_cast<QWidget *>(&box));
+}
+
+void tst_FeatureTreeDelegate::describesEditorsToScreenReaders()
+{
+    add(QStringLiteral("F Enum A entries=A,B tip=Says_something"));
+    const std::unique_ptr<QWidget> editor(
+        m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), index()));
     QCOMPARE(editor->accessibleName(), QStringLiteral("F"));
     QVERIFY(editor->accessibleDescription().endsWith(QLatin1String("Says something")));
     QVERIFY(!editor->accessibleDescription().contains(QLatin1Char('<')));
 }
 
-void tst_FeatureTreeDelegate::drawsValuesThatEditorsWillShow()
+// At 96 dpi the model's height, above it the font's; this program runs with both.
+void tst_FeatureTreeDelegate::givesRowsTheHeightOfTheFont()
 {
-    open(QStringLiteral("Float 1.5 ro"));
-    const QModelIndex index = findRow(*m_model, QStringLiteral("F"), 1);
-    QVERIFY(!index.data().isValid());
-    const auto picture = [&] {
-        return m_view->viewport()->grab(m_view->visualRect(index)).toImage();
-    };
-    const QImage before = picture();
-    node().number = 88.875;
-    node().publish();
-    m_view->update(index);
-    QVERIFY(picture() != before);
+    add(QStringLiteral("F Integer 1"));
+    QStyleOptionViewItem option;
+    const QModelIndex name = index().siblingAtColumn(0);
+    int height = name.data(Qt::SizeHintRole).toSize().height();
+    if (QApplication::primaryScreen()->logicalDotsPerInch() > 96.0) {
+        QFont font = option.font;
+        font.setFamily(QStringLiteral("Segoe UI"));
+        font.setPixelSize(CStyleHelper::computePixelFontSize(12));
+        height = QFontMetrics(font).height() + 4;
+    }
+    QCOMPARE(m_delegate->sizeHint(option, name).height(), height);
 }
 
 QTEST_MAIN(tst_FeatureTreeDelegate)

@@ -1,6 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Tessera contributors
 // SPDX-License-Identifier: MIT
 
+// Helpers of one test need no meta object.
+// clazy:excludeall=missing-qobject-macro
+
 #include "internal/legacy/tree/featuretreemodel.h"
 
 #include "internal/legacy/tree/featuretreeinodeitem.h"

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 Tessera contributors
+// SPDX-License-Identifier: MIT
+
+#include "wheelfocus.h"
+
+#include <QApplication>
+#include <QWidget>
+
+namespace {
+
+// An editor of several parts passes the focus on to one of them.
+const QWidget &editorOf(const QWidget &part)
+{
+    const QWidget *parent = part.parentWidget();
+    return parent && parent->focusProxy() ? *parent : part;
+}
+
+} // namespace
+
+bool takesWheel(const QWidget &part)
+{
+    const QWidget &editor = editorOf(part);
+    const QWidget *focused = QApplication::focusWidget();
+    return focused && (focused == &editor || editor.isAncestorOf(focused));
+}
