@@ -59,7 +59,6 @@ private Q_SLOTS:
         QCOMPARE(font.family(), QStringLiteral("Segoe UI"));
         QCOMPARE(font.pixelSize(), 16); // 12 pt at 96 dpi
         QCOMPARE(CStyleHelper::computePixelFontSize(11), 15); // rounded up
-        QCOMPARE(CStyleHelper::computePixelFontSize(10), 13); // rounded down
     }
 
     void resourcesAreThere()

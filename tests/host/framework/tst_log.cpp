@@ -30,6 +30,7 @@ private:
     {
         QStringList result;
         const QVector<Host::LogEntry> entries = Host::Log::instance().entries();
+        result.reserve(entries.size());
         for (const Host::LogEntry &entry : entries) {
             result.append(Host::toLine(entry));
         }

@@ -169,9 +169,10 @@ private Q_SLOTS:
         QVERIFY(!Host::findService<IParameterService>({}));
         const QSharedPointer<IService> first(new Host::ParameterPool);
         const QSharedPointer<IService> second(new Host::ParameterPool);
-        const QList<QSharedPointer<IService>> kept {m_catalogue, first, second};
-        for (const QSharedPointer<IService> &service : kept + kept) {
+        const QList<QSharedPointer<IService>> kept {first, m_catalogue, second};
+        for (const QSharedPointer<IService> &service : kept) {
             m_registry->registerService(service);
+            m_registry->registerService(first);
         }
         QCOMPARE(m_registry->services(), kept);
         QCOMPARE(Host::findService<IParameterService>(m_registry).data(), first.data());
