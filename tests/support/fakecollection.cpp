@@ -75,6 +75,13 @@ bool takeRange(FakeNode &node, const QString &word)
     return match.hasMatch();
 }
 
+template<typename Interface>
+QSharedPointer<IParameter> make(const QSharedPointer<FakeNode> &node,
+                                const bool &delayed) // clazy:exclude=function-args-by-value
+{
+    return QSharedPointer<FakeParameter<Interface>>::create(node, delayed);
+}
+
 } // namespace
 
 FakeCollection::FakeCollection(QObject *parent)
@@ -117,8 +124,30 @@ QString FakeCollection::addNode(const QString &path, const QString &line)
         }
     }
     m_nodes.insert(node->fullName, node);
-    m_parameters.insert(node->fullName, makeFakeParameter(node, m_delayed));
+    m_parameters.insert(node->fullName, makeParameter(node));
     return node->fullName;
+}
+
+QSharedPointer<IParameter> FakeCollection::makeParameter(const QSharedPointer<FakeNode> &node)
+{
+    switch (node->type) {
+    case Integer:
+        return make<IIntegerParameter>(node, m_delayed);
+    case Float:
+        return make<IFloatParameter>(node, m_delayed);
+    case Boolean:
+        return make<IBooleanParameter>(node, m_delayed);
+    case Enumeration:
+        return make<IEnumParameter>(node, m_delayed);
+    case Command:
+        return make<ICommandParameter>(node, m_delayed);
+    case None:
+    case String:
+    case Category:
+    case Other:
+        break;
+    }
+    return make<IParameter>(node, m_delayed);
 }
 
 FakeNode &FakeCollection::node(const QString &fullName)

@@ -101,6 +101,8 @@ public:
 
 private:
     QString addNode(const QString &path, const QString &line);
+    QSharedPointer<ParameterCollection::IParameter> makeParameter(
+        const QSharedPointer<FakeNode> &node);
 
     QStringList m_paths;
     QMap<QString, QSharedPointer<FakeNode>> m_nodes;
