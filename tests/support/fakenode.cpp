@@ -10,8 +10,6 @@
 #include "plugin/contract/parametercollection/stringparameterdata.h"
 #include "support/fakecollection.h"
 
-#include <QTextCodec>
-
 using namespace ParameterCollection;
 
 namespace Tests {
@@ -83,12 +81,8 @@ QString FakeNode::valueText() const
     case Command:
         return QStringLiteral("Done");
     case String:
-    case Enumeration: {
-        QTextCodec::ConverterState state;
-        const QTextCodec *utf8 = QTextCodec::codecForName("UTF-8");
-        const QString decoded = utf8->toUnicode(text.constData(), text.size(), &state);
-        return state.invalidChars == 0 ? decoded : QString::fromLatin1(text);
-    }
+    case Enumeration:
+        return QString::fromUtf8(text);
     case None:
     case Category:
     case Other:

@@ -21,16 +21,28 @@ namespace Tests {
 /// The node of a fake parameter.
 class FakeParameterNode final : public ParameterCollection::IParameterNode
 {
-    Q_OBJECT
-
 public:
-    explicit FakeParameterNode(const QSharedPointer<FakeNode> &node);
-    ~FakeParameterNode() override;
-
-    QString property(const QString &key) const override;
-    QString property(const QString &key, const QString &defaultValue) const override;
-    void invalidate() override;
-    void setProperty(const QString &key, const QString &value) override;
+    explicit FakeParameterNode(QSharedPointer<FakeNode> node)
+        : m_node(std::move(node))
+    {
+    }
+    QString property(const QString &key) const override
+    {
+        return property(key, QString());
+    }
+    QString property(const QString &key, const QString &defaultValue) const override
+    {
+        raise(m_node->onProperty);
+        return m_node->properties.value(key, defaultValue);
+    }
+    void invalidate() override
+    {
+        ++m_node->invalidations;
+    }
+    void setProperty(const QString &key, const QString &value) override
+    {
+        m_node->properties.insert(key, value);
+    }
 
 private:
     QSharedPointer<FakeNode> m_node;
@@ -104,9 +116,8 @@ public:
     {
         return m_node->snapshot();
     }
-    void refresh(bool force) override
+    void refresh(bool /*force*/) override
     {
-        Q_UNUSED(force)
         ++m_node->refreshes;
         raise(m_node->onRefresh);
         m_node->publish();
@@ -133,9 +144,8 @@ class FakeParameter<ParameterCollection::IIntegerParameter> final
 public:
     using FakeParameterBase::FakeParameterBase;
 
-    void setValue(qint64 value, bool verify) override
+    void setValue(qint64 value, bool /*verify*/) override
     {
-        Q_UNUSED(verify)
         m_node->write(static_cast<double>(value));
     }
     qint64 value() const override
@@ -151,9 +161,8 @@ class FakeParameter<ParameterCollection::IFloatParameter> final
 public:
     using FakeParameterBase::FakeParameterBase;
 
-    void setValue(double value, bool verify) override
+    void setValue(double value, bool /*verify*/) override
     {
-        Q_UNUSED(verify)
         m_node->write(value);
     }
     double value() const override
@@ -177,9 +186,8 @@ class FakeParameter<ParameterCollection::ICommandParameter> final
 public:
     using FakeParameterBase::FakeParameterBase;
 
-    void execute(bool verify) override
+    void execute(bool /*verify*/) override
     {
-        Q_UNUSED(verify)
         raise(m_node->onWrite);
         ++m_node->executions;
     }

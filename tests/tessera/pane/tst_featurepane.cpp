@@ -7,18 +7,26 @@
 #include "pane/parametertrees.h"
 #include "plugin/services/featuretreecontrolservice.h"
 #include "support/fakecollection.h"
-#include "support/fakehost.h"
 #include "support/treetext.h"
 #include "support/warningguard.h"
 
+#include "host/framework/actioncontainer.h"
+#include "host/framework/camerarecord.h"
+#include "host/framework/menuservice.h"
+#include "host/framework/parameterpool.h"
+#include "host/framework/sourcerecord.h"
+
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
 #include <QLabel>
+#include <QMenu>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
 
+#include <algorithm>
 #include <memory>
 
 using Core::AppCoreComponents::BaseInfoPtr;
@@ -30,7 +38,17 @@ namespace {
 
 const QString category = QStringLiteral("vantrel.viewer.plugins.tessera.featureTreeDockWidget");
 const QString device = QStringLiteral("@CameraDevice");
-const QString contextMenu = QStringLiteral("VantrelViewer.FeatureTreeContextMenu");
+
+BaseInfoPtr camera(const QString &name, const char *deviceClass = "GEV")
+{
+    return BaseInfoPtr(
+        new Host::CameraRecord(name, QStringLiteral("Model"), QLatin1String(deviceClass)));
+}
+
+BaseInfoPtr source(const char *sourceCategory)
+{
+    return BaseInfoPtr(new Host::SourceRecord(QLatin1String(sourceCategory)));
+}
 
 } // namespace
 
@@ -39,34 +57,238 @@ class tst_FeaturePane : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void namesTrees_data();
-    void namesTrees();
-    void showsItsHintFirst();
-    void putsItsCopyActionIntoTheCameraMenu();
-    void showsARegisteredSource();
-    void addsTreesThatComeLater();
-    void followsTheActiveSource();
-    void showsTheHintWhenASourceGoes_data();
-    void showsTheHintWhenASourceGoes();
-    void survivesThatASourceComesBack();
-    void logsWhatItIsNotGiven();
-    void forwardsWhatItsBrowserTells();
-    void refreshesAndCopiesTheCurrentSource();
-    void showsTheMenuOfTheHost();
-    void keepsABrowserWhileItsMenuIsOpen();
+    void init()
+    {
+        m_guard.begin();
+        m_menu.reset(new Host::MenuService(nullptr));
+        m_menu->createContainer(Core::CId("VantrelViewer.Menu.Camera"), &m_cameraMenu);
+        m_menu->addGroup(Core::CId("VantrelViewer.Menu.Camera"),
+                         Core::CId("VantrelViewer.Group.Camera.Features"));
+        m_menu->createContainer(Core::CId("VantrelViewer.FeatureTreeContextMenu"), &m_hostMenu);
+        m_pool.reset(new Host::ParameterPool);
+        m_control.reset(new CFeatureTreeControlService(nullptr));
+        m_pane = std::make_unique<CFeatureTreeWidget>(m_menu, m_control, m_pool,
+                                                      Core::CId("Tessera.Widget.All"), false);
+        m_pane->show();
+    }
+
+    void cleanup()
+    {
+        m_pane.reset();
+        m_control.reset();
+        m_menu.reset();
+        m_guard.verify();
+    }
+
+    void namesTrees_data()
+    {
+        QTest::addColumn<BaseInfoPtr>("info");
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("rootName");
+        QTest::addColumn<bool>("isUtf8");
+        const auto row = [](const char *tag, const BaseInfoPtr &info, const char *path,
+                            const char *rootName, bool isUtf8) {
+            QTest::newRow(tag) << info << QString::fromLatin1(path) << QString::fromLatin1(rootName)
+                               << isUtf8;
+        };
+        const BaseInfoPtr gige = camera(QStringLiteral("Cam"));
+        const BaseInfoPtr usb = camera(QStringLiteral("Cam"), "U3V");
+        row("GigE camera", gige, "@CameraDevice", "Cam", true);
+        row("USB camera", usb, "@CameraDevice", "Cam", false);
+        row("interface", usb, "@Interface", "Cam", false);
+        row("instance", gige, "@CameraInstance", "Camera Instance", true);
+        row("transport", gige, "@DeviceTransportLayer", "Device Transport Layer", true);
+        row("stream", usb, "@StreamGrabber0", "Stream Parameters", false);
+        row("events", usb, "@EventGrabber", "Event Grabber Parameters", false);
+        row("conversion", usb, "@ImageFormatConverter", "Image Format Conversion", false);
+        row("unknown path", usb, "@ChunkData", "ChunkData", false);
+        row("device", source("Device"), "@CameraDevice", "Camera", false);
+        row("device interface", source("Device"), "@Interface", "Interface", false);
+        row("block's camera", source("Workbench"), "@CameraDevice", "Camera", false);
+        row("block", source("Workbench"), "@Blur", "qStep", true);
+        row("block's conversion", source("Workbench"), "@ImageFormatConverter", "qStep", true);
+        row("neither", source("workbench"), "@CameraDevice", "", false);
+    }
+
+    void namesTrees()
+    {
+        QFETCH(BaseInfoPtr, info);
+        QFETCH(QString, path);
+        const Plugin::Tessera::ParameterTree tree = Plugin::Tessera::parameterTree(info, path);
+        QTEST(tree.rootName, "rootName");
+        QTEST(tree.isUtf8, "isUtf8");
+    }
+
+    void putsItsCopyActionIntoTheCameraMenu()
+    {
+        QVERIFY(!shown());
+        QCOMPARE(m_pane->minimumSize(), QSize(350, 350));
+        QCOMPARE(m_cameraMenu.actions().size(), 1);
+        QAction *copy = m_cameraMenu.actions().constFirst();
+        QCOMPARE(copy->objectName(), QStringLiteral("Tessera.CopyCameraFeatures"));
+        QCOMPARE(copy->shortcut(), QKeySequence(QStringLiteral("Ctrl+Shift+C")));
+        const auto bareMenu = QSharedPointer<Host::MenuService>::create(nullptr);
+        const CFeatureTreeWidget pane(bareMenu, m_control, m_pool, Core::CId("x"), false);
+        QVERIFY(bareMenu->command(Core::CId("Tessera.CopyCameraFeatures")));
+
+        m_control->requestFeatureTreeRefresh();
+        const BaseInfoPtr first = addCamera(QStringLiteral("One"));
+        const BaseInfoPtr second = addCamera(QStringLiteral("Two"));
+        m_control->requestFeatureTreeRefresh();
+        QCOMPARE(collection(first).batchUpdates, 0);
+        QVERIFY(collection(second).batchUpdates > 0);
+        copy->trigger();
+        QVERIFY(QApplication::clipboard()->text().startsWith(QLatin1String("Two\n")));
+    }
+
+    void followsTheActiveSource()
+    {
+        const BaseInfoPtr first = addCamera(QStringLiteral("One"));
+        QCOMPARE(treeShown(), QStringLiteral("One\n  Image\n    Width: 640\n"));
+        const BaseInfoPtr second = addCamera(QStringLiteral("Two"));
+        QStringList roots {rootShown()};
+        for (const BaseInfoPtr &active : {first, first, BaseInfoPtr(), second, source("Device")}) {
+            m_control->setActiveParameterSource(active);
+            roots.append(rootShown());
+        }
+        QCOMPARE(roots.join(QLatin1Char(',')), QStringLiteral("Two,One,One,,Two,"));
+    }
+
+    void addsTreesThatComeLater()
+    {
+        const BaseInfoPtr first = addCamera(QStringLiteral("Cam"), QString());
+        const FeatureTreeWidget *browser = shown();
+        QVERIFY(browser);
+        QCOMPARE(treeShown(), QString());
+        addCamera(QStringLiteral("Other"));
+        collection(first).attach(QStringLiteral("@StreamGrabber0"), QStringLiteral("N Integer 1"));
+        QCOMPARE(rootShown(), QStringLiteral("Other"));
+        m_control->setActiveParameterSource(first);
+        QCOMPARE(shown(), browser);
+        QCOMPARE(rootShown(), QStringLiteral("Stream Parameters"));
+    }
+
+    void showsTheHintWhenASourceGoes_data()
+    {
+        QTest::addColumn<bool>("isCurrent");
+        QTest::newRow("current source") << true;
+        QTest::newRow("another source") << false;
+    }
+
+    void showsTheHintWhenASourceGoes()
+    {
+        QFETCH(bool, isCurrent);
+        const BaseInfoPtr first = addCamera(QStringLiteral("One"));
+        const BaseInfoPtr second = addCamera(QStringLiteral("Two"));
+        m_control->unregisterParameterSource(isCurrent ? second : first);
+        QVERIFY(!shown());
+        QCOMPARE(m_pane->findChildren<FeatureTreeWidget *>().size(), 1);
+        m_control->setActiveParameterSource(isCurrent ? first : second);
+        m_control->unregisterParameterSource(source("Device"));
+        QCOMPARE(rootShown(), isCurrent ? QStringLiteral("One") : QStringLiteral("Two"));
+    }
+
+    void survivesThatASourceComesBack()
+    {
+        const BaseInfoPtr info = addCamera(QStringLiteral("Cam"));
+        for (int round = 0; round < 2; ++round) {
+            m_control->unregisterParameterSource(info);
+            collection(info).attach(QStringLiteral("@Later%1").arg(round), QString());
+            m_control->registerParameterSource(info);
+            QVERIFY(treeShown().contains(QLatin1String("    Width: 640\n")));
+            QCOMPARE(treeShown().count(QStringLiteral("Later")), round + 1);
+        }
+        collection(info).attach(QStringLiteral("@Later2"), QString());
+        QCOMPARE(treeShown().count(QStringLiteral("Later")), 3);
+    }
+
+    void logsWhatItIsNotGiven()
+    {
+        for (const char *text :
+             {"Info", "Info", "Info", "ParameterCollection", "ParameterCollection"}) {
+            m_guard.expectLogEntry(ELogLevel::Fault, category,
+                                   QStringLiteral("%1 is null.").arg(QLatin1String(text)));
+        }
+        m_control->registerParameterSource({});
+        m_control->unregisterParameterSource({});
+        m_control->registerParameterSource(source("Device"));
+        m_pane->onParameterCollectionAttached(device);
+        Tests::FakeCollection stranger;
+        connect(&stranger, &Tests::FakeCollection::nodeMapAttached, m_pane.get(),
+                &CFeatureTreeWidget::onParameterCollectionAttached);
+        stranger.attach(device, QString());
+        QVERIFY(!shown());
+    }
+
+    void forwardsWhatItsBrowserTells()
+    {
+        const BaseInfoPtr first = addCamera(QStringLiteral("One"));
+        auto *view = shown()->findChild<QTreeView *>();
+        addCamera(QStringLiteral("Two"));
+        QSignalSpy current(m_pane.get(), &CFeatureTreeWidget::currentChanged);
+        const QModelIndex width = Tests::findRow(*view->model(), QStringLiteral("Width"));
+        view->setCurrentIndex(width);
+        QVERIFY(current.isEmpty()); // not shown
+        m_control->setActiveParameterSource(first);
+        QCOMPARE(current.count(), 1); // the change of source
+        view->setCurrentIndex(width.parent());
+        QCOMPARE(current.count(), 2);
+    }
+
+    void keepsABrowserWhileItsMenuIsOpen()
+    {
+        const BaseInfoPtr info = addCamera(QStringLiteral("Cam"));
+        const QPointer<FeatureTreeWidget> browser = shown();
+        auto *view = browser->findChild<QTreeView *>();
+        Q_EMIT view->customContextMenuRequested(QPoint()); // nothing to show
+        QAction *entry = m_hostMenu.addAction(QStringLiteral("Copy Name"));
+        bool aliveBelowTheMenu = false;
+        QTimer::singleShot(0, this, [&] {
+            m_control->unregisterParameterSource(info);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            aliveBelowTheMenu = browser;
+            QWidget *menu = QApplication::activePopupWidget();
+            QVERIFY(menu->actions().contains(entry));
+            menu->close();
+        });
+        Q_EMIT view->customContextMenuRequested(QPoint());
+        QVERIFY(aliveBelowTheMenu);
+        QVERIFY(!shown());
+        QTRY_VERIFY(!browser);
+    }
 
 private:
-    BaseInfoPtr addCamera(const QString &name, const QString &path = device);
-    FeatureTreeWidget *shown() const;
-    bool showsHint() const
+    BaseInfoPtr addCamera(const QString &name, const QString &path = device)
     {
-        return m_pane->findChild<QLabel *>()->isVisibleTo(m_pane.get());
+        const BaseInfoPtr info = camera(name);
+        const auto trees = QSharedPointer<Tests::FakeCollection>::create();
+        if (!path.isEmpty()) {
+            trees->attach(path, QStringLiteral("Image\n  Width Integer 640\n"));
+        }
+        m_pool->insert(info, trees);
+        m_control->registerParameterSource(info);
+        return info;
     }
-    QAction *copyAction() const
+
+    // The one browser in sight, or null. Hint and copy action follow it.
+    FeatureTreeWidget *shown() const
     {
-        return m_menu->actions.value(QStringLiteral("Tessera.CopyCameraFeatures"));
+        QList<FeatureTreeWidget *> browsers = m_pane->findChildren<FeatureTreeWidget *>();
+        const auto isHidden = [&](QWidget *widget) { return !widget->isVisibleTo(m_pane.get()); };
+        browsers.erase(std::remove_if(browsers.begin(), browsers.end(), isHidden), browsers.end());
+        FeatureTreeWidget *browser = browsers.value(0);
+        [&] {
+            QVERIFY(browsers.size() <= 1);
+            QCOMPARE(isHidden(m_pane->findChild<QLabel *>()), browser != nullptr);
+            QCOMPARE(m_cameraMenu.actions().value(0)->isEnabled(), browser != nullptr);
+        }();
+        return browser;
+    }
+
+    // The top row of what is shown; empty for the hint.
+    QString rootShown() const
+    {
+        return shown() ? treeShown().section(QLatin1Char('\n'), 0, 0) : QString();
     }
     QString treeShown() const
     {
@@ -74,312 +296,17 @@ private:
     }
     Tests::FakeCollection &collection(const BaseInfoPtr &info) const
     {
-        return *m_parameters->collections.value(info).objectCast<Tests::FakeCollection>();
+        return *m_pool->parameterCollection(info).objectCast<Tests::FakeCollection>();
     }
 
-    QSharedPointer<Tests::FakeMenuService> m_menu;
-    QSharedPointer<Tests::FakeParameterService> m_parameters;
+    QMenu m_cameraMenu;
+    QMenu m_hostMenu; // for a feature
+    QSharedPointer<Host::MenuService> m_menu;
+    QSharedPointer<Host::ParameterPool> m_pool;
     QSharedPointer<CFeatureTreeControlService> m_control;
     std::unique_ptr<CFeatureTreeWidget> m_pane;
     Tests::WarningGuard m_guard;
 };
-
-void tst_FeaturePane::init()
-{
-    m_guard.begin();
-    m_menu = QSharedPointer<Tests::FakeMenuService>::create();
-    m_menu->container(QStringLiteral("VantrelViewer.Menu.Camera"));
-    m_parameters = QSharedPointer<Tests::FakeParameterService>::create();
-    m_control = QSharedPointer<CFeatureTreeControlService>::create(nullptr);
-    m_pane = std::make_unique<CFeatureTreeWidget>(m_menu, m_control, m_parameters,
-                                                  Core::CId("Tessera.Widget.All"), false);
-    m_pane->show();
-}
-
-void tst_FeaturePane::cleanup()
-{
-    m_pane.reset();
-    m_control.reset();
-    m_parameters.reset();
-    m_menu.reset();
-    m_guard.verify();
-}
-
-BaseInfoPtr tst_FeaturePane::addCamera(const QString &name, const QString &path)
-{
-    const BaseInfoPtr info(new Tests::FakeCamera(QStringLiteral("GEV"), name));
-    const auto trees = QSharedPointer<Tests::FakeCollection>::create();
-    if (!path.isEmpty()) {
-        trees->attach(path, QStringLiteral("Image\n  Width Integer 640\n"));
-    }
-    m_parameters->collections.insert(info, trees);
-    m_control->registerParameterSource(info);
-    return info;
-}
-
-// The one browser in sight, or null.
-FeatureTreeWidget *tst_FeaturePane::shown() const
-{
-    FeatureTreeWidget *found = nullptr;
-    const QList<FeatureTreeWidget *> browsers = m_pane->findChildren<FeatureTreeWidget *>();
-    for (FeatureTreeWidget *browser : browsers) {
-        if (browser->isVisibleTo(m_pane.get())) {
-            Q_ASSERT(!found);
-            found = browser;
-        }
-    }
-    return found;
-}
-
-void tst_FeaturePane::namesTrees_data()
-{
-    QTest::addColumn<BaseInfoPtr>("info");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("rootName");
-    QTest::addColumn<bool>("isUtf8");
-    const auto camera = [](const char *deviceClass) {
-        return BaseInfoPtr(
-            new Tests::FakeCamera(QLatin1String(deviceClass), QStringLiteral("Cam")));
-    };
-    const auto source = [](const char *sourceCategory) {
-        return BaseInfoPtr(new Tests::FakeSource(QLatin1String(sourceCategory)));
-    };
-    QTest::newRow("GigE camera") << camera("GEV") << "@CameraDevice"
-                                 << "Cam" << true;
-    QTest::newRow("USB camera") << camera("U3V") << "@CameraDevice"
-                                << "Cam" << false;
-    QTest::newRow("interface") << camera("U3V") << "@Interface"
-                               << "Cam" << false;
-    QTest::newRow("instance") << camera("GEV") << "@CameraInstance"
-                              << "Camera Instance" << true;
-    QTest::newRow("transport") << camera("GEV") << "@DeviceTransportLayer"
-                               << "Device Transport Layer" << true;
-    QTest::newRow("stream") << camera("U3V") << "@StreamGrabber0"
-                            << "Stream Parameters" << false;
-    QTest::newRow("events") << camera("U3V") << "@EventGrabber"
-                            << "Event Grabber Parameters" << false;
-    QTest::newRow("conversion") << camera("U3V") << "@ImageFormatConverter"
-                                << "Image Format Conversion" << false;
-    QTest::newRow("unknown path") << camera("U3V") << "@ChunkData"
-                                  << "ChunkData" << false;
-    QTest::newRow("device") << source("Device") << "@CameraDevice"
-                            << "Camera" << false;
-    QTest::newRow("device interface") << source("Device") << "@Interface"
-                                      << "Interface" << false;
-    QTest::newRow("block's camera") << source("Workbench") << "@CameraDevice"
-                                    << "Camera" << false;
-    QTest::newRow("block") << source("Workbench") << "@Blur"
-                           << "qStep" << true;
-    QTest::newRow("block's conversion") << source("Workbench") << "@ImageFormatConverter"
-                                        << "qStep" << true;
-    QTest::newRow("neither") << source("workbench") << "@CameraDevice"
-                             << "" << false;
-}
-
-void tst_FeaturePane::namesTrees()
-{
-    QFETCH(BaseInfoPtr, info);
-    QFETCH(QString, path);
-    const Plugin::Tessera::ParameterTree tree = Plugin::Tessera::parameterTree(info, path);
-    QTEST(tree.rootName, "rootName");
-    QTEST(tree.isUtf8, "isUtf8");
-}
-
-void tst_FeaturePane::showsItsHintFirst()
-{
-    QVERIFY(showsHint());
-    QVERIFY(!shown());
-    QCOMPARE(m_pane->minimumSize(), QSize(350, 350));
-}
-
-void tst_FeaturePane::putsItsCopyActionIntoTheCameraMenu()
-{
-    QVERIFY(copyAction());
-    QVERIFY(!copyAction()->isEnabled());
-    QCOMPARE(copyAction()->shortcut(), QKeySequence(QStringLiteral("Ctrl+Shift+C")));
-    QCOMPARE(copyAction()->shortcutContext(), Qt::ApplicationShortcut);
-    QCOMPARE(m_menu->container(QStringLiteral("VantrelViewer.Menu.Camera")).groups,
-             QStringList(QStringLiteral("VantrelViewer.Group.Camera.Features")));
-
-    const auto bareMenu = QSharedPointer<Tests::FakeMenuService>::create();
-    const CFeatureTreeWidget pane(bareMenu, m_control, m_parameters, Core::CId("x"), false);
-    QCOMPARE(bareMenu->actions.size(), 1);
-}
-
-void tst_FeaturePane::showsARegisteredSource()
-{
-    addCamera(QStringLiteral("Cam"));
-    QVERIFY(!showsHint());
-    QCOMPARE(treeShown(), QStringLiteral("Cam\n  Image\n    Width: 640\n"));
-    QVERIFY(copyAction()->isEnabled());
-}
-
-void tst_FeaturePane::addsTreesThatComeLater()
-{
-    const BaseInfoPtr first = addCamera(QStringLiteral("Cam"), QString());
-    QVERIFY(shown());
-    QCOMPARE(treeShown(), QString());
-    const FeatureTreeWidget *browser = shown();
-    addCamera(QStringLiteral("Other"));
-    const FeatureTreeWidget *other = shown();
-    collection(first).attach(QStringLiteral("@StreamGrabber0"), QStringLiteral("N Integer 1"));
-    QCOMPARE(shown(), other);
-    m_control->setActiveParameterSource(first);
-    QCOMPARE(shown(), browser);
-    QVERIFY(treeShown().startsWith(QLatin1String("Stream Parameters\n")));
-}
-
-void tst_FeaturePane::followsTheActiveSource()
-{
-    const BaseInfoPtr first = addCamera(QStringLiteral("One"));
-    const BaseInfoPtr second = addCamera(QStringLiteral("Two"));
-    QVERIFY(treeShown().startsWith(QLatin1String("Two")));
-    m_control->setActiveParameterSource(first);
-    m_control->setActiveParameterSource(first);
-    QVERIFY(treeShown().startsWith(QLatin1String("One")));
-
-    m_control->setActiveParameterSource({});
-    QVERIFY(!shown());
-    QVERIFY(showsHint());
-    QVERIFY(!copyAction()->isEnabled());
-
-    m_control->setActiveParameterSource(second);
-    QVERIFY(treeShown().startsWith(QLatin1String("Two")));
-    QVERIFY(!showsHint());
-    m_control->setActiveParameterSource(
-        BaseInfoPtr(new Tests::FakeSource(QStringLiteral("Device"))));
-    QVERIFY(showsHint());
-}
-
-void tst_FeaturePane::showsTheHintWhenASourceGoes_data()
-{
-    QTest::addColumn<bool>("isCurrent");
-    QTest::newRow("current source") << true;
-    QTest::newRow("another source") << false;
-}
-
-void tst_FeaturePane::showsTheHintWhenASourceGoes()
-{
-    QFETCH(bool, isCurrent);
-    const BaseInfoPtr first = addCamera(QStringLiteral("One"));
-    const BaseInfoPtr second = addCamera(QStringLiteral("Two"));
-    m_control->unregisterParameterSource(isCurrent ? second : first);
-    QVERIFY(showsHint());
-    QVERIFY(!shown());
-    QVERIFY(!copyAction()->isEnabled());
-    QCOMPARE(m_pane->findChildren<FeatureTreeWidget *>().size(), 1);
-
-    m_control->setActiveParameterSource(isCurrent ? first : second);
-    QVERIFY(treeShown().startsWith(isCurrent ? QLatin1String("One") : QLatin1String("Two")));
-    m_control->unregisterParameterSource(
-        BaseInfoPtr(new Tests::FakeSource(QStringLiteral("Device"))));
-    QVERIFY(!showsHint());
-}
-
-void tst_FeaturePane::survivesThatASourceComesBack()
-{
-    const BaseInfoPtr info = addCamera(QStringLiteral("Cam"));
-    for (int round = 0; round < 3; ++round) {
-        m_control->unregisterParameterSource(info);
-        collection(info).node(device + QLatin1String("/Width")).isNull = true;
-        collection(info).attach(QStringLiteral("@Later%1").arg(round), QString());
-        collection(info).node(device + QLatin1String("/Width")).isNull = false;
-        m_control->registerParameterSource(info);
-        QVERIFY(treeShown().contains(QLatin1String("    Width: 640\n")));
-        QCOMPARE(treeShown().count(QStringLiteral("Later")), round + 1);
-    }
-    const int rows = treeShown().count(QLatin1Char('\n'));
-    collection(info).attach(QStringLiteral("@EventGrabber"), QString());
-    QCOMPARE(treeShown().count(QLatin1Char('\n')), rows + 1);
-}
-
-void tst_FeaturePane::logsWhatItIsNotGiven()
-{
-    m_guard.expectLogEntry(ELogLevel::Fault, category, QStringLiteral("Info is null."));
-    m_control->registerParameterSource({});
-    m_guard.expectLogEntry(ELogLevel::Fault, category, QStringLiteral("Info is null."));
-    m_control->unregisterParameterSource({});
-    m_guard.expectLogEntry(ELogLevel::Fault, category,
-                           QStringLiteral("ParameterCollection is null."));
-    m_control->registerParameterSource(
-        BaseInfoPtr(new Tests::FakeSource(QStringLiteral("Device"))));
-    m_guard.expectLogEntry(ELogLevel::Fault, category,
-                           QStringLiteral("ParameterCollection is null."));
-    m_pane->onParameterCollectionAttached(device);
-
-    Tests::FakeCollection stranger;
-    connect(&stranger, &Tests::FakeCollection::nodeMapAttached, m_pane.get(),
-            &CFeatureTreeWidget::onParameterCollectionAttached);
-    m_guard.expectLogEntry(ELogLevel::Fault, category, QStringLiteral("Info is null."));
-    stranger.attach(device, QString());
-    QVERIFY(showsHint());
-}
-
-void tst_FeaturePane::forwardsWhatItsBrowserTells()
-{
-    const BaseInfoPtr first = addCamera(QStringLiteral("One"));
-    auto *view = shown()->findChild<QTreeView *>();
-    addCamera(QStringLiteral("Two"));
-    QSignalSpy current(m_pane.get(), &CFeatureTreeWidget::currentChanged);
-    const QModelIndex width = Tests::findRow(*view->model(), QStringLiteral("Width"));
-    view->setCurrentIndex(width);
-    QVERIFY(current.isEmpty()); // not shown
-    m_control->setActiveParameterSource(first);
-    QCOMPARE(current.count(), 1); // the change of source
-    view->setCurrentIndex(width.parent());
-    QCOMPARE(current.count(), 2);
-}
-
-void tst_FeaturePane::refreshesAndCopiesTheCurrentSource()
-{
-    m_control->requestFeatureTreeRefresh();
-    const BaseInfoPtr first = addCamera(QStringLiteral("One"));
-    const BaseInfoPtr second = addCamera(QStringLiteral("Two"));
-    m_control->requestFeatureTreeRefresh();
-    QCOMPARE(collection(first).batchUpdates, 0);
-    QCOMPARE(collection(second).batchUpdates, 1);
-    copyAction()->trigger();
-    QVERIFY(QGuiApplication::clipboard()->text().startsWith(QLatin1String("Two\n")));
-}
-
-void tst_FeaturePane::showsTheMenuOfTheHost()
-{
-    addCamera(QStringLiteral("Cam"));
-    const auto menu = QSharedPointer<QMenu>::create();
-    m_pane->onContextMenuRequested(QPoint(), menu); // no container: nothing to show
-    QMenu hostMenu;
-    m_menu->container(contextMenu);
-    m_pane->onContextMenuRequested(QPoint(), menu);
-    QAction *action = hostMenu.addAction(QStringLiteral("Copy Name"));
-    m_menu->container(contextMenu).fakeMenu = &hostMenu;
-    int shownEntries = 0;
-    QTimer::singleShot(0, menu.data(), [&] {
-        shownEntries = menu->actions().count(action);
-        menu->close();
-    });
-    m_pane->onContextMenuRequested(QPoint(), menu);
-    QCOMPARE(shownEntries, 1);
-}
-
-void tst_FeaturePane::keepsABrowserWhileItsMenuIsOpen()
-{
-    const BaseInfoPtr info = addCamera(QStringLiteral("Cam"));
-    QMenu hostMenu;
-    hostMenu.addAction(QStringLiteral("Copy Name"));
-    m_menu->container(contextMenu).fakeMenu = &hostMenu;
-    const QPointer<FeatureTreeWidget> browser = shown();
-    bool aliveBelowTheMenu = false;
-    QTimer::singleShot(0, this, [&] {
-        m_control->unregisterParameterSource(info);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        aliveBelowTheMenu = browser;
-        QApplication::activePopupWidget()->close();
-    });
-    Q_EMIT browser->findChild<QTreeView *>()->customContextMenuRequested(QPoint());
-    QVERIFY(aliveBelowTheMenu);
-    QVERIFY(showsHint());
-    QTRY_VERIFY(!browser);
-}
 
 QTEST_MAIN(tst_FeaturePane)
 #include "tst_featurepane.moc"
