@@ -61,3 +61,13 @@ function(tessera_add_test)
         "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/leaks-of-others.txt:print_suppressions=0"
         ASAN_OPTIONS=fast_unwind_on_malloc=0 UBSAN_OPTIONS=print_stacktrace=1)
 endfunction()
+
+# Runs a test program once more, as <name>_<SUFFIX>, with these variables in place of the usual ones.
+function(tessera_repeat_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "SUFFIX" "ENVIRONMENT")
+    get_test_property(${name} ENVIRONMENT environment)
+    get_test_property(${name} TIMEOUT timeout)
+    add_test(NAME ${name}_${arg_SUFFIX} COMMAND ${name})
+    set_tests_properties(${name}_${arg_SUFFIX} PROPERTIES TIMEOUT ${timeout}
+        ENVIRONMENT "${environment};${arg_ENVIRONMENT}")
+endfunction()

@@ -32,7 +32,12 @@ ComboSlider::ComboSlider(QWidget *parent)
     ComboSlider::updateToolTip();
 }
 
-ComboSlider::~ComboSlider() = default;
+// The base deletes the children, of which one may have the focus and then finishes its editing.
+ComboSlider::~ComboSlider()
+{
+    m_slider->disconnect(this);
+    m_spinBox->disconnect(this);
+}
 
 int ComboSlider::value() const
 {
