@@ -8,5 +8,7 @@ namespace Plugin::Tessera::ObjectNames {
 
 inline constexpr const char *Browser = "FeatureTreeWidgetClass";
 inline constexpr const char *TreeView = "treeView";
+/// By it a drop area tells a table of features from any other source of a drag.
+inline constexpr const char *TableView = "tesseraTableView";
 
 } // namespace Plugin::Tessera::ObjectNames

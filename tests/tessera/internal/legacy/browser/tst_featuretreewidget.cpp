@@ -1,56 +1,63 @@
 // SPDX-FileCopyrightText: 2026 Tessera contributors
 // SPDX-License-Identifier: MIT
 
-// Helpers of one test need no meta object.
-// clazy:excludeall=missing-qobject-macro
-
 #include "internal/legacy/browser/featuretreewidget.h"
 
-#include "internal/legacy/tree/featuretreeinodeitem.h"
+#include "internal/legacy/tree/featuretreeitem.h"
+#include "internal/legacy/tree/featuretreemodelextension.h"
+#include "internal/legacy/tree/featuretreeview.h"
+#include "internal/view/featuretableview.h"
+#include "plugin/constants/itemroles.h"
 #include "support/fakecollection.h"
 #include "support/treetext.h"
 #include "support/warningguard.h"
 
-#include "host/framework/sourcerecord.h"
+#include "host/framework/camerarecord.h"
+#include "host/framework/parameterpool.h"
 
+#include <QAbstractSpinBox>
+#include <QAction>
+#include <QCheckBox>
 #include <QClipboard>
+#include <QComboBox>
 #include <QGuiApplication>
 #include <QLineEdit>
-#include <QPaintEvent>
 #include <QPointer>
-#include <QRegion>
+#include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
+#include <QSplitter>
 #include <QTest>
-#include <QTreeView>
 
 #include <memory>
 
 using Core::Logging::ELogLevel;
 using ParameterCollection::IParameter;
+using ParameterCollection::ParameterName;
 using Tests::Fault;
 using Tests::findRow;
 
 namespace {
 
 const QString path = QStringLiteral("@CameraDevice");
+const QString features = QStringLiteral("Image name=Image_Format\n"
+                                        "  Width Integer 640 [16..1280]\n"
+                                        "  Gain Float 1.5 unit=dB expert\n"
+                                        "  Empty\n"
+                                        "  Inner guru\n"
+                                        "    Hidden String x invisible\n"
+                                        "    Lost Integer 1 ni\n"
+                                        "    Away Integer 1 na\n"
+                                        "    Mute String x wo\n"
+                                        "    AVeryLongNameThatDoesNotFitIntoTheColumn Boolean 1\n"
+                                        "Other\n"
+                                        "  Far Integer 3\n"
+                                        "  Near Boolean 0\n");
 
-/// Collects what is painted anew.
-class PaintSpy final : public QObject
+ParameterName name(const char *shortName)
 {
-public:
-    explicit PaintSpy(QWidget *widget)
-    {
-        widget->installEventFilter(this);
-    }
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::Paint) {
-            painted += static_cast<QPaintEvent *>(event)->region();
-        }
-        return QObject::eventFilter(watched, event);
-    }
-    QRegion painted;
-};
+    return ParameterName(path + QLatin1Char('/') + QLatin1String(shortName));
+}
 
 } // namespace
 
@@ -63,27 +70,13 @@ private Q_SLOTS:
     {
         m_guard.begin();
         m_collection = QSharedPointer<Tests::FakeCollection>::create();
-        m_collection->attach(
-            path,
-            QStringLiteral("Image name=Image_Format\n"
-                           "  Width Integer 640 [16..1280]\n"
-                           "  Gain Float 1.5 unit=dB expert\n"
-                           "  Empty\n"
-                           "  Inner guru\n"
-                           "    Hidden String x invisible\n"
-                           "    Lost Integer 1 ni\n"
-                           "    Away Integer 1 na\n"
-                           "    Mute String x wo\n"
-                           "    AVeryLongNameThatDoesNotFitIntoTheColumn Boolean 1\n"
-                           "Other\n"
-                           "  Far Integer 3\n"));
-        m_browser = std::make_unique<FeatureTreeWidget>(
-            QString(),
-            Core::AppCoreComponents::BaseInfoPtr(new Host::SourceRecord(QStringLiteral("Device"))),
-            nullptr);
-        m_view = m_browser->findChild<QTreeView *>(QStringLiteral("treeView"));
-        m_browser->resize(500, 400);
+        m_collection->attach(path, features);
+        m_info.reset(new Host::CameraRecord(QStringLiteral("Cam"), QStringLiteral("Model"),
+                                            QStringLiteral("GEV")));
+        m_browser = std::make_unique<FeatureTreeWidget>(QString(), m_info, nullptr);
+        m_browser->resize(700, 500);
         m_browser->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_browser.get()));
     }
 
     void cleanup()
@@ -108,7 +101,8 @@ private Q_SLOTS:
                                 "      Mute                              \t<not readable>\n"
                                 "      AVeryLongNameThatDoesNotFitIntoTheColumn\t1\n"
                                 "  Other                                 \n"
-                                "    Far                                 \t3\n"));
+                                "    Far                                 \t3\n"
+                                "    Near                                \t0\n"));
     }
 
     void copiesWhatTheDeviceTells_data()
@@ -141,122 +135,334 @@ private Q_SLOTS:
         QVERIFY(text.contains(QLatin1String("Inner")));
     }
 
-    void readsOnlyWhatIsShown()
+    void listsTheFeaturesOfTheSelectedCategory()
     {
         add();
-        QVERIFY(m_view->isExpanded(row("Image Format")));
-        QVERIFY(!m_view->isExpanded(row("Other")));
-        QCOMPARE(row("Width", 1).data().toString(), QStringLiteral("640"));
-        QCOMPARE(node("Width").refreshes, 1);
-        QVERIFY(!node("Far").isSubscribed());
-        m_view->collapse(row("Image Format"));
+        QVERIFY(tree()->isExpanded(treeRow("Camera")));
+        QCOMPARE(shown(), QString());
+        QVERIFY(!m_browser->currentItem());
+        select("Image Format");
+        QCOMPARE(shown(), QStringLiteral("Width: 640\nGain [dB]: 1.5\n"));
+        QVERIFY(node("Width").isSubscribed() && !node("Far").isSubscribed());
+        select("Other");
+        QCOMPARE(shown(), QStringLiteral("Far: 3\nNear: 0\n"));
         QVERIFY(!node("Width").isSubscribed());
-
-        m_browser->expandTree();
-        QVERIFY(node("Far").isSubscribed() && node("Width").isSubscribed());
-        m_view->collapse(row("Camera"));
-        QVERIFY(!node("Far").isSubscribed());
-        m_view->expand(row("Camera"));
-        QVERIFY(node("Far").isSubscribed());
-        QCOMPARE(node("Far").refreshes, 2);
+        tree()->clearSelection();
+        QCOMPARE(shown(), QString());
     }
 
-    void repaintsTheValueOfAnUpdate()
+    void comesBackToTheRowsThatWereSeen()
     {
+        QString many = QStringLiteral("Many\n");
+        for (int feature = 0; feature < 60; ++feature) {
+            many += QStringLiteral("  F%1 Integer 1\n").arg(feature);
+        }
+        m_collection->attach(path, many);
         add();
-        QVERIFY(QTest::qWaitForWindowExposed(m_browser.get()));
-        QCoreApplication::processEvents();
-        PaintSpy spy(m_view->viewport());
-        node("Width").publish();
-        QTRY_VERIFY(spy.painted.contains(m_view->visualRect(row("Width", 1)).center()));
-        QVERIFY(!spy.painted.contains(m_view->visualRect(row("Gain [dB]", 1)).center()));
+        select("Many");
+        table()->verticalScrollBar()->setValue(7);
+        select("Other");
+        QCOMPARE(table()->verticalScrollBar()->value(), 0);
+        select("Many");
+        QCOMPARE(table()->verticalScrollBar()->value(), 7);
     }
 
-    void hidesWhatIsAboveTheLevel()
+    void writesWhatTheUserEnters()
     {
-        const auto isHidden = [this](const char *name) {
-            const QModelIndex index = row(name);
-            return m_view->isRowHidden(index.row(), index.parent());
-        };
         add();
-        m_browser->expandTree();
-        QVERIFY(isHidden("Lost"));
-        QVERIFY(isHidden("Hidden"));
-        QVERIFY(!isHidden("Gain [dB]"));
-
-        QSignalSpy taken(m_browser.get(), &FeatureTreeWidget::visibilityChanged);
-        const auto setLevel = [this](int level) {
-            return QMetaObject::invokeMethod(m_browser.get(), "onVisibilityChanged",
-                                             Q_ARG(int, level));
-        };
-        QVERIFY(setLevel(GenApi::Beginner));
-        QVERIFY(isHidden("Gain [dB]"));
-        QVERIFY(!node("Gain").isSubscribed());
-        QVERIFY(!isHidden("Width"));
-
-        QVERIFY(setLevel(GenApi::Invisible));
-        QVERIFY(!isHidden("Hidden"));
-        QVERIFY(!isHidden("Lost"));
-        QVERIFY(node("Gain").isSubscribed());
-
-        QVERIFY(setLevel(4) && setLevel(-1));
-        QCOMPARE(taken.count(), 2);
-        QCOMPARE(taken.value(1).value(0).value<GenApi::EVisibility>(), GenApi::Invisible);
+        select("Image Format");
+        auto *width = table()->indexWidget(tableRow("Width", 1))->findChild<QLineEdit *>();
+        QVERIFY(width);
+        QTest::mouseDClick(width, Qt::LeftButton);
+        QTest::keyClicks(width, QStringLiteral("800"));
+        QTest::keyClick(width, Qt::Key_Return);
+        QTRY_COMPARE(node("Width").writes, QStringList(QStringLiteral("800")));
+        QCOMPARE(tableRow("Width", 1).data().toString(), QStringLiteral("800"));
     }
 
     void tellsTheCurrentParameter()
     {
         add();
-        QVERIFY(!m_browser->currentItem());
         QSignalSpy current(
             m_browser.get(),
             qOverload<QSharedPointer<IParameter>>(&FeatureTreeWidget::onCurrentChanged));
-        QTest::mouseClick(m_view->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          m_view->visualRect(row("Width", 1)).center());
-        QCOMPARE(current.count(), 1);
-        QCOMPARE(current.value(0).value(0).value<QSharedPointer<IParameter>>(),
-                 m_collection->parameter(path + QLatin1String("/Width")));
-        QCOMPARE(m_browser->currentItem()->fullName(), path + QLatin1String("/Width"));
+        const auto last = [&current] {
+            return current.takeLast().value(0).value<QSharedPointer<IParameter>>();
+        };
+        select("Other");
+        QCOMPARE(last()->fullName(), path + QLatin1String("/Other"));
+        table()->setCurrentIndex(tableRow("Far"));
+        QCOMPARE(last()->fullName(), path + QLatin1String("/Far"));
+        QCOMPARE(m_browser->currentItem()->fullName(), path + QLatin1String("/Far"));
+        current.clear();
+        widget<QLineEdit>("filterEdit")->setFocus();
+        table()->setCurrentIndex(tableRow("Near"));
+        QCOMPARE(current.count(), 0);
+    }
 
-        QSignalSpy asked(m_browser.get(), &FeatureTreeWidget::contextMenuRequested);
-        Q_EMIT m_view->customContextMenuRequested(QPoint(3, 4));
-        QCOMPARE(asked.value(0).value(0).toPoint(), m_view->viewport()->mapToGlobal(QPoint(3, 4)));
-        QVERIFY(asked.value(0).value(1).value<QSharedPointer<QMenu>>());
+    void marksWhatIsSearched()
+    {
+        add();
+        select("Image Format");
+        auto *search = widget<QLineEdit>("filterEdit");
+        QTest::keyClick(m_browser.get(), Qt::Key_F3);
+        QVERIFY(search->hasFocus());
+        QTest::keyClicks(search, QStringLiteral("idt"));
+        QVERIFY(!QGuiApplication::overrideCursor());
+        QVERIFY(tableRow("Width").data(IsSearchMatchRole).toBool());
+        QVERIFY(!tableRow("Gain [dB]").data(IsSearchMatchRole).toBool());
+        QVERIFY(treeRow("Image Format").data(IsSearchMatchRole).toBool());
+        QVERIFY(!treeRow("Other").data(IsSearchMatchRole).toBool());
+        search->clear();
+        QVERIFY(!tableRow("Width").data(IsSearchMatchRole).toBool());
+    }
+
+    void twoEscapesEmptyTheSearch_data()
+    {
+        QTest::addColumn<QVector<int>>("keys");
+        QTest::addColumn<bool>("isEmptied");
+        const int escape = Qt::Key_Escape;
+        QTest::newRow("one") << QVector<int> {escape} << false;
+        QTest::newRow("two") << QVector<int> {escape, escape} << true;
+        QTest::newRow("a letter between") << QVector<int> {escape, Qt::Key_A, escape} << false;
+        QTest::newRow("an arrow between") << QVector<int> {escape, Qt::Key_Left, escape} << false;
+        QTest::newRow("again") << QVector<int> {escape, Qt::Key_A, escape, escape} << true;
+    }
+
+    void twoEscapesEmptyTheSearch()
+    {
+        QFETCH(QVector<int>, keys);
+        FeatureTreeWidget other(QString(), m_info, nullptr);
+        auto *search = widget<QLineEdit>("filterEdit");
+        search->setText(QStringLiteral("x"));
+        for (const int key : qAsConst(keys)) {
+            QTest::keyClick(search, static_cast<Qt::Key>(key));
+        }
+        QTEST(search->text().isEmpty(), "isEmptied");
+        // The first press may go to another browser.
+        QTest::keyClick(search, Qt::Key_Left);
+        search->setText(QStringLiteral("x"));
+        QTest::keyClick(&other, Qt::Key_Escape);
+        QTest::keyClick(search, Qt::Key_Escape);
+        QVERIFY(search->text().isEmpty());
+    }
+
+    void marksTheFeaturesOfAUseCase()
+    {
+        add();
+        select("Other");
+        m_browser->setUseCases(
+            {{QStringLiteral("Light"), QStringList {path + QLatin1String("/gain")}},
+             {QStringLiteral("Near things"), QStringList {path + QLatin1String("/Near")}}});
+        auto *box = widget<QComboBox>("useCaseComboBox");
+        auto *edit = widget<QLineEdit>("useCaseEdit");
+        QCOMPARE(box->count(), 3);
+        QCOMPARE(box->currentText(), QStringLiteral("Common Tasks"));
+        QVERIFY(box->isVisible() && !edit->isVisible());
+
+        box->setFocus();
+        QTest::keyClicks(box, QStringLiteral("L"));
+        QTRY_VERIFY(edit->isVisible() && !box->isVisible());
+        QCOMPARE(edit->text(), QStringLiteral("Light"));
+        QVERIFY(treeRow("Image Format").data(IsFavoriteMatchRole).toBool());
+        QVERIFY(!tableRow("Near").data(IsFavoriteMatchRole).toBool());
+        select("Image Format");
+        QVERIFY(tableRow("Gain [dB]").data(IsFavoriteMatchRole).toBool());
+        QVERIFY(!tableRow("Width").data(IsFavoriteMatchRole).toBool());
+
+        edit->actions().constLast()->trigger();
+        QVERIFY(box->isVisible() && !edit->isVisible());
+        QCOMPARE(box->currentIndex(), 0);
+        QVERIFY(!tableRow("Gain [dB]").data(IsFavoriteMatchRole).toBool());
+        m_browser->setUseCases({});
+        QCOMPARE(box->count(), 1);
+    }
+
+    void hidesWhatIsAboveTheLevel()
+    {
+        QSignalSpy taken(m_browser.get(), &FeatureTreeWidget::visibilityChanged);
+        const auto setLevel = [this](int level) {
+            return QMetaObject::invokeMethod(m_browser.get(), "onVisibilityChanged",
+                                             Q_ARG(int, level));
+        };
+        add();
+        select("Image Format");
+        QVERIFY(setLevel(GenApi::Beginner));
+        QCOMPARE(shown(), QStringLiteral("Width: 640\n"));
+        QVERIFY(setLevel(GenApi::Expert));
+        QCOMPARE(shown(), QStringLiteral("Width: 640\nGain [dB]: 1.5\n"));
+        QVERIFY(setLevel(4) && setLevel(-1));
+        QCOMPARE(taken.count(), 2);
+        QCOMPARE(taken.value(1).value(0).value<GenApi::EVisibility>(), GenApi::Expert);
+    }
+
+    void pollsWhileTheBoxIsChecked()
+    {
+        add();
+        auto *box = widget<QCheckBox>("checkBoxPolling");
+        auto *action = m_browser->findChild<QAction *>(QStringLiteral("actionTogglePolling"));
+        QSignalSpy announced(m_browser.get(), &FeatureTreeWidget::pollingStateChanged);
+        QVERIFY(!box->isChecked() && !action->isChecked());
+        QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
+        QCOMPARE(announced, QList<QVariantList> {{true}});
+        QVERIFY(action->isChecked());
+        QTRY_COMPARE(m_collection->polls, QVector<int>({300}));
+        m_browser->setMonitorMode(true);
+        QTRY_VERIFY(m_collection->batchUpdates > 0);
+        action->trigger();
+        QVERIFY(!box->isChecked());
+        QCOMPARE(announced.count(), 2);
+    }
+
+    void keepsTheCategoryInBothShapes()
+    {
+        add();
+        select("Other");
+        auto *box = widget<QCheckBox>("checkBoxShowTreeView");
+        widget<QLineEdit>("filterEdit")->setText(QStringLiteral("inner"));
+        box->click();
+        QCOMPARE(shown(), QStringLiteral("Far: 3\nNear: 0\n"));
+        QVERIFY(treeRow("Inner").isValid());
+        QVERIFY(treeRow("Inner").data(IsSearchMatchRole).toBool());
+        select("Inner");
+        box->click();
+        QVERIFY(!treeRow("Inner").isValid());
+        QVERIFY(shown().contains(QLatin1String("Width")));
     }
 
     void refreshesTheCollection()
     {
         add();
-        m_browser->refresh();
+        QTest::keyClick(m_browser.get(), Qt::Key_F5);
+        QTRY_COMPARE(m_collection->batchUpdates, 1);
         m_collection->onUpdate = Fault::Host;
         m_guard.expectLogEntry(ELogLevel::Fault,
                                QStringLiteral("vantrel.viewer.plugins.tessera.featureTreeModel"),
                                QRegularExpression(QStringLiteral("Failed to update nodes")));
         m_browser->refresh();
-        QCOMPARE(m_collection->batchUpdates, 2);
         QVERIFY(!QGuiApplication::overrideCursor());
     }
 
-    void dropsAnOpenEditorWhenCleared()
+    void keysOfTwoBrowsersGoToTheOneWithTheFocus()
+    {
+        QWidget window;
+        const auto second = QSharedPointer<Tests::FakeCollection>::create();
+        second->attach(path, features);
+        auto *other = new FeatureTreeWidget(QString(), m_info, &window);
+        add();
+        other->addParameterCollection(second, QStringLiteral("Second"), path, true);
+        m_browser->setParent(&window);
+        window.show();
+        m_browser->show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        for (int press = 1; press <= 3; ++press) {
+            tree()->setFocus();
+            QTest::keyClick(tree(), Qt::Key_F5);
+            QTRY_COMPARE(m_collection->batchUpdates, press);
+            other->treeView()->setFocus();
+            QTest::keyClick(other->treeView(), Qt::Key_F5);
+            QTRY_COMPARE(second->batchUpdates, press);
+        }
+        QCOMPARE(m_collection->batchUpdates, 3);
+        m_browser->setParent(nullptr);
+    }
+
+    void listsTheFeaturesOfAUserTab()
+    {
+        m_browser->setUserTabMode(true);
+        for (const char *hidden :
+             {"useCaseEdit", "useCaseComboBox", "filterEdit", "treeView", "line",
+              "addNewFavoriteButton", "checkBoxPolling", "checkBoxShowTreeView"}) {
+            QVERIFY2(!widget<QWidget>(hidden)->isVisible(), hidden);
+        }
+        QVERIFY(widget<QCheckBox>("checkBoxUnavailableFavs")->isVisible());
+        m_browser->setDeviceParameterService(usePool());
+        m_browser->setFeatureNameList(
+            {name("Far"), name("Away"), name("Gone"), name("Width"), name("Far")});
+        add();
+        QCOMPARE(shown(), QStringLiteral("Far: 3\nWidth: 640\nFar: 3\n"));
+        widget<QCheckBox>("checkBoxUnavailableFavs")->click();
+        QVERIFY(shown().contains(QLatin1String("Away")));
+        m_browser->setFeatureNameList({});
+        QCOMPARE(shown(), QString());
+    }
+
+    void movesFavourites()
+    {
+        m_browser->setUserTabMode(true);
+        m_browser->setDeviceParameterService(usePool());
+        m_browser->setFeatureNameList({name("Away"), name("Far"), name("Lost"), name("Width")});
+        add();
+        QSignalSpy moved(m_browser.get(), &FeatureTreeWidget::orderOfTableItemsChanged);
+        auto *up = m_browser->findChild<QAction *>(QStringLiteral("actionMoveFavouriteUp"));
+        auto *down = m_browser->findChild<QAction *>(QStringLiteral("actionMoveFavouriteDown"));
+        QVERIFY(!up->isEnabled() && !down->isEnabled());
+        table()->setCurrentIndex(tableRow("Width"));
+        QVERIFY(up->isEnabled() && !down->isEnabled());
+        table()->setFocus();
+        QTest::keyClick(table(), Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(shown(), QStringLiteral("Width: 640\nFar: 3\n"));
+        QVERIFY(!up->isEnabled() && down->isEnabled());
+        QCOMPARE(moved, QList<QVariantList>({{3, 1}}));
+
+        QSignalSpy asked(m_browser.get(), &FeatureTreeWidget::contextMenuRequested);
+        Q_EMIT table()->customContextMenuRequested(table()->visualRect(tableRow("Far")).center());
+        const auto menu = asked.value(0).value(1).value<QSharedPointer<QMenu>>();
+        QCOMPARE(menu->actions().value(1), down);
+        down->trigger();
+        QCOMPARE(shown(), QStringLiteral("Far: 3\nWidth: 640\n"));
+    }
+
+    void tellsThatAUserTabHasNoService()
+    {
+        m_browser->setUserTabMode(true);
+        add();
+        for (int entry = 0; entry < 2; ++entry) {
+            m_guard.expectLogEntry(
+                ELogLevel::Fault,
+                QStringLiteral("vantrel.viewer.plugins.tessera.featureTreeWidget"),
+                QRegularExpression(
+                    QStringLiteral("^Plugin::CameraPool::IDeviceParameterService not set!$")));
+        }
+        m_browser->setFeatureNameList({name("Far"), name("Gone")});
+        QCOMPARE(shown(), QStringLiteral("Far: 3\n"));
+    }
+
+    void keepsColumnWidthsForTheFirstShow()
+    {
+        FeatureTreeWidget browser(QString(), m_info, nullptr);
+        browser.setUserTabMode(false);
+        browser.setCategoryColumnWidth(123);
+        browser.setFirstSectionSize(77);
+        browser.show();
+        auto *splitter = browser.findChild<QSplitter *>(QStringLiteral("splitter"));
+        QTRY_COMPARE(splitter->sizes().constFirst(), 123);
+        QCOMPARE(browser.tableView()->columnWidth(0), 77);
+        browser.setCategoryColumnWidth(-1);
+        browser.setCategoryColumnWidth(10000);
+        browser.setFirstSectionSize(-1);
+        QCOMPARE(splitter->sizes().constFirst(), 123);
+        QSignalSpy sized(&browser, &FeatureTreeWidget::firstSectionSizeChanged);
+        browser.setFirstSectionSize(99);
+        QCOMPARE(sized, QList<QVariantList>({{99, true}}));
+    }
+
+    void dropsOpenEditorsWhenCleared()
     {
         add();
-        QVERIFY(QTest::qWaitForWindowActive(m_browser.get()));
-        const QPoint centre = m_view->visualRect(row("Width", 1)).center();
-        QTest::mouseClick(m_view->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
-        QTest::mouseDClick(m_view->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
-        const QPointer<QLineEdit> editor = m_view->viewport()->findChild<QLineEdit *>();
+        select("Image Format");
+        const QPointer<QWidget> editor = table()->indexWidget(tableRow("Width", 1));
         QVERIFY(editor);
-        QTest::keyClicks(editor, QStringLiteral("800"));
+        QTest::keyClicks(editor->findChild<QLineEdit *>(), QStringLiteral("8"));
         node("Width").isNull = true; // unplugged
-
         m_browser->clear();
-        QCOMPARE(m_view->model()->rowCount(), 0);
+        QCOMPARE(shown(), QString());
         QVERIFY(!m_browser->currentItem());
         QVERIFY(!node("Width").isSubscribed());
         node("Width").isNull = false;
         m_browser->repaint();
         add();
-        m_view->expand(row("Image Format"));
+        select("Image Format");
         QVERIFY(node("Width").isSubscribed());
         m_browser.reset();
         QVERIFY(!editor);
@@ -264,27 +470,68 @@ private Q_SLOTS:
     }
 
 private:
-    Tests::FakeNode &node(const char *name) const
+    template<typename Widget> Widget *widget(const char *objectName) const
     {
-        return m_collection->node(path + QLatin1Char('/') + QLatin1String(name));
+        return m_browser->findChild<Widget *>(QLatin1String(objectName));
     }
-    QModelIndex row(const char *name, int column = 0) const
+    FeatureTreeView *tree() const
     {
-        return findRow(*m_view->model(), QString::fromLatin1(name), column);
+        return m_browser->treeView();
+    }
+    QTableView *table() const
+    {
+        return m_browser->tableView();
+    }
+    Tests::FakeNode &node(const char *shortName) const
+    {
+        return m_collection->node(name(shortName).toString());
+    }
+    QModelIndex treeRow(const char *text) const
+    {
+        return findRow(*tree()->model(), QString::fromLatin1(text));
+    }
+    QModelIndex tableRow(const char *text, int column = 0) const
+    {
+        return findRow(*table()->model(), QString::fromLatin1(text), column);
+    }
+    void select(const char *category) const
+    {
+        const QModelIndex index = treeRow(category);
+        tree()->scrollTo(index);
+        QTest::mouseClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          tree()->visualRect(index).center());
+    }
+    /// The rows of the table that can be seen.
+    QString shown() const
+    {
+        QString text;
+        for (int row = 0; row < table()->model()->rowCount(); ++row) {
+            if (!table()->isRowHidden(row)) {
+                text += table()->model()->index(row, 0).data().toString() + QLatin1String(": ")
+                    + table()->model()->index(row, 1).data().toString() + QLatin1Char('\n');
+            }
+        }
+        return text;
     }
     QString copied()
     {
         m_browser->copyToClipboard();
         return QGuiApplication::clipboard()->text();
     }
-    void add()
+    QSharedPointer<Host::ParameterPool> usePool() const
+    {
+        const auto pool = QSharedPointer<Host::ParameterPool>::create();
+        pool->insert(m_info, m_collection);
+        return pool;
+    }
+    void add() const
     {
         m_browser->addParameterCollection(m_collection, QStringLiteral("Camera"), path, true);
     }
 
     QSharedPointer<Tests::FakeCollection> m_collection;
+    Core::AppCoreComponents::BaseInfoPtr m_info;
     std::unique_ptr<FeatureTreeWidget> m_browser;
-    QTreeView *m_view = nullptr; // of the browser
     Tests::WarningGuard m_guard;
 };
 
