@@ -8,5 +8,6 @@ namespace Plugin::Tessera::ObjectNames {
 
 inline constexpr const char *Browser = "FeatureTreeWidgetClass";
 inline constexpr const char *TreeView = "treeView";
+inline constexpr const char *TableView = "tesseraTableView";
 
 } // namespace Plugin::Tessera::ObjectNames
