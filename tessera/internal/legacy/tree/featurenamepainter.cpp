@@ -22,14 +22,14 @@ const QColor hoverColor(229, 243, 255, 220);
 } // namespace
 
 FeatureNamePainter::FeatureNamePainter(const QStyleOptionViewItem &option, const QModelIndex &index,
-                                       QString searchText, bool showTreeView)
+                                       QString searchText, Place place)
     : m_option(option)
     , m_index(index)
     , m_searchText(std::move(searchText))
     , m_style(option.widget ? option.widget->style() : QApplication::style())
     , m_textRect(m_style->subElementRect(QStyle::SE_ItemViewItemText, &option, option.widget))
     , m_rowRect(option.rect)
-    , m_showTreeView(showTreeView)
+    , m_place(place)
 {
     if (m_option.state.testFlag(QStyle::State_Selected)) {
         m_option.font.setWeight(QFont::Bold);
@@ -41,18 +41,33 @@ FeatureNamePainter::FeatureNamePainter(const QStyleOptionViewItem &option, const
     placeRects();
 }
 
-// Rows below the second level start at the left edge unless the whole tree is shown.
 void FeatureNamePainter::placeRects()
 {
-    const auto pixels = [this](QStyle::PixelMetric metric) {
-        return m_style->pixelMetric(metric, &m_option, m_option.widget);
-    };
-    const int margin = pixels(QStyle::PM_HeaderMargin) - 3;
-    if (m_index.data(DepthRole).toInt() < 2 || m_showTreeView) {
+    const int margin = m_style->pixelMetric(QStyle::PM_HeaderMargin, &m_option, m_option.widget);
+    switch (m_place) {
+    case Place::TableBesideTree:
+        m_textRect.adjust(margin + 7, 0, -2, 0);
+        m_rowRect.adjust(6, 0, -2, 0);
+        break;
+    case Place::TableOfItsOwn:
+        m_rowRect.adjust(-2, 0, -2, 0);
+        break;
+    case Place::WholeTree:
+    case Place::FlatTree:
+        placeInTree(margin - 3);
+        break;
+    }
+}
+
+// Rows below the second level start at the left edge unless the whole tree is shown.
+void FeatureNamePainter::placeInTree(int margin)
+{
+    if (m_index.data(DepthRole).toInt() < 2 || m_place == Place::WholeTree) {
         m_textRect.adjust(margin, 0, 10, 0);
         return;
     }
-    const int indent = pixels(QStyle::PM_TreeViewIndentation);
+    const int indent =
+        m_style->pixelMetric(QStyle::PM_TreeViewIndentation, &m_option, m_option.widget);
     const int disclosure =
         m_style->subElementRect(QStyle::SE_TreeViewDisclosureItem, &m_option, m_option.widget)
             .width();

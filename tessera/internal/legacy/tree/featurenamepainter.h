@@ -13,10 +13,17 @@ class QPainter;
 class FeatureNamePainter final
 {
 public:
-    /// `option` is complete, text included. `searchText` is trimmed. `showTreeView` tells whether
-    /// rows below the second level keep their indentation.
+    /// The sort of view that the name stands in.
+    enum class Place {
+        WholeTree,
+        FlatTree, ///< rows below the second level stand at the left edge
+        TableBesideTree,
+        TableOfItsOwn,
+    };
+
+    /// `option` is complete, text included. `searchText` is trimmed.
     FeatureNamePainter(const QStyleOptionViewItem &option, const QModelIndex &index,
-                       QString searchText, bool showTreeView);
+                       QString searchText, Place place);
 
     void paint(QPainter &painter) const;
 
@@ -28,6 +35,7 @@ private:
     void paintText(QPainter &painter) const;
     void paintFocusFrame(QPainter &painter) const;
     void placeRects();
+    void placeInTree(int margin);
     int fullyDrawnLength() const;
     bool has(int role) const;
     bool matches(const QString &text) const;
@@ -39,5 +47,5 @@ private:
     QString m_drawnText; // elided where it does not fit
     QRect m_textRect;
     QRect m_rowRect;
-    bool m_showTreeView = false;
+    Place m_place = Place::WholeTree;
 };

@@ -3,13 +3,13 @@
 
 #include "featuretreedelegate.h"
 
-#include "featurenamepainter.h"
 #include "featuretreeinodeitem.h"
 #include "featuretreemodelextension.h"
 #include "itemeditortable.h"
 
 #include "internal/legacy/editors/abstractitemeditor.h"
 #include "internal/legacy/editors/inteditor.h"
+#include "internal/view/featuretableview.h"
 #include "plugin/constants/logcategories.h"
 #include "plugin/contract/core/logging.h"
 #include "plugin/contract/viewer/stylehelper.h"
@@ -67,7 +67,18 @@ void FeatureTreeDelegate::paint(QPainter *painter, const QStyleOptionViewItem &o
     }
     QStyleOptionViewItem complete(option);
     initStyleOption(&complete, index);
-    FeatureNamePainter(complete, index, m_searchText->trimmed(), m_showTreeView).paint(*painter);
+    FeatureNamePainter(complete, index, m_searchText->trimmed(), placeIn(option.widget))
+        .paint(*painter);
+}
+
+FeatureNamePainter::Place FeatureTreeDelegate::placeIn(const QWidget *view) const
+{
+    using Plugin::Tessera::Internal::View::CFeatureTableView;
+    using Place = FeatureNamePainter::Place;
+    if (const auto *table = qobject_cast<const CFeatureTableView *>(view)) {
+        return table->isConnectedToTreeView() ? Place::TableBesideTree : Place::TableOfItsOwn;
+    }
+    return m_showTreeView ? Place::WholeTree : Place::FlatTree;
 }
 
 QSize FeatureTreeDelegate::sizeHint(const QStyleOptionViewItem &option,

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "featurenamepainter.h"
+
 #include <QPointer>
 #include <QStyledItemDelegate>
 #include <QVector>
@@ -55,6 +57,7 @@ protected:
 private:
     QWidget *createValueEditor(const FeatureTreeINodeItem &item, QWidget *parent,
                                const QStyleOptionViewItem &option, const QModelIndex &index) const;
+    FeatureNamePainter::Place placeIn(const QWidget *view) const;
     void endCommit() const;
 
     IFeatureTreeModelExtension *m_model = nullptr; // borrowed

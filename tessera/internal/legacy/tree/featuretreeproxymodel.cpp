@@ -5,6 +5,7 @@
 
 #include "featuretreemodel.h"
 
+#include "internal/model/featuretablemodel.h"
 #include "plugin/constants/itemroles.h"
 #include "plugin/contract/genapi/visibility.h"
 
@@ -35,6 +36,14 @@ void FeatureTreeProxyModel::addParameterCollection(
     const QScopedValueRollback<bool> adding(m_addingCollection, true);
     if (auto *tree = qobject_cast<FeatureTreeModel *>(sourceModel())) {
         tree->addParameterCollection(collection, rootName, roleName, isUtf8);
+    }
+}
+
+void FeatureTreeProxyModel::setTableItems(const QList<FeatureTreeItem *> &items, bool isUtf8)
+{
+    using Plugin::Tessera::Internal::Model::CFeatureTableModel;
+    if (auto *table = qobject_cast<CFeatureTableModel *>(sourceModel())) {
+        table->setItems(items, isUtf8);
     }
 }
 

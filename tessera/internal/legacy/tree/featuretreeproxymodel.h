@@ -32,6 +32,8 @@ public:
     void addParameterCollection(
         const QSharedPointer<ParameterCollection::IParameterCollection> &collection,
         const QString &rootName, const QString &roleName, bool isUtf8);
+    /// The rows of a source that is a `CFeatureTableModel`.
+    void setTableItems(const QList<FeatureTreeItem *> &items, bool isUtf8);
     /// The different short names that the last run of the filter let pass. A run looks no further
     /// than it must, so this is no count of all rows that could be shown.
     int matchCount() const;
