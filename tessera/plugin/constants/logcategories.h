@@ -9,6 +9,7 @@ namespace Plugin::Tessera::LogCategories {
 inline constexpr const char *Plugin = "vantrel.viewer.plugins.tessera";
 inline constexpr const char *Pane = "vantrel.viewer.plugins.tessera.featureTreeDockWidget";
 inline constexpr const char *Browser = "vantrel.viewer.plugins.tessera.featureTreeWidget";
+inline constexpr const char *UseCaseService = "vantrel.viewer.plugins.tessera.useCaseService";
 inline constexpr const char *TreeModel = "vantrel.viewer.plugins.tessera.featureTreeModel";
 inline constexpr const char *TableModel = "vantrel.viewer.plugins.tessera.featureTableModel";
 inline constexpr const char *NodeItem = "vantrel.viewer.plugins.tessera.nodeItem";

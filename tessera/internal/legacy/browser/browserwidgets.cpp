@@ -39,6 +39,7 @@ QPalette lightPalette()
             light.setColor(group, role, text);
         }
         light.setColor(group, QPalette::Base, Qt::white);
+        light.setColor(group, QPalette::Window, Qt::white);
         light.setColor(group, QPalette::Highlight, system.color(group, QPalette::Highlight));
         light.setColor(group, QPalette::HighlightedText,
                        system.color(group, QPalette::HighlightedText));

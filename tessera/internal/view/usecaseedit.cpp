@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 Tessera contributors
+// SPDX-License-Identifier: MIT
+
+#include "usecaseedit.h"
+
+#include "screenratio.h"
+#include "trailingicon.h"
+
+#include "plugin/contract/viewer/stylehelper.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QEvent>
+#include <QStyle>
+
+namespace Plugin::Tessera::Internal::View {
+
+namespace {
+
+constexpr double reservedWidth = 40.0; // pixels at 96 dpi, for margin and cross
+
+} // namespace
+
+CUseCaseEdit::CUseCaseEdit(QWidget *parent)
+    : QLineEdit(parent)
+{
+    QFont lineFont = font();
+    lineFont.setFamily(QStringLiteral("Segoe UI"));
+    lineFont.setPixelSize(CStyleHelper::computePixelFontSize(12));
+    setFont(lineFont);
+    if (const QStyle *style = QApplication::style()) {
+        m_crossAction =
+            addTrailingIcon(this, style->standardIcon(QStyle::SP_TitleBarCloseButton), 12);
+        m_crossAction->setToolTip(tr("Leave the use case"));
+        connect(m_crossAction, &QAction::triggered, this, &CUseCaseEdit::onCrossActionTriggered);
+    }
+    setReadOnly(true);
+    setTextMargins(7, 0, 0, 0);
+    updateStyleSheet();
+}
+
+CUseCaseEdit::~CUseCaseEdit() = default;
+
+void CUseCaseEdit::setText(const QString &text)
+{
+    m_fullText = text;
+    showText();
+}
+
+void CUseCaseEdit::showText()
+{
+    const int room = width() - static_cast<int>(screenRatio() * reservedWidth);
+    QLineEdit::setText(fontMetrics().elidedText(m_fullText, Qt::ElideRight, room));
+    setCursorPosition(0);
+}
+
+void CUseCaseEdit::updateStyleSheet()
+{
+    setStyleSheet(QStringLiteral("QLineEdit { border: 1px solid palette(mid); border-radius: 0px; "
+                                 "background-color: %1;}")
+                      .arg(QColor(255, 216, 147).name()));
+}
+
+void CUseCaseEdit::changeEvent(QEvent *event)
+{
+    QLineEdit::changeEvent(event);
+    const int pixels = CStyleHelper::computePixelFontSize(12);
+    if (event->type() == QEvent::FontChange && font().pixelSize() != pixels) {
+        QFont lineFont = font();
+        lineFont.setPixelSize(pixels);
+        setFont(lineFont);
+    } else if (event->type() == QEvent::ApplicationPaletteChange) {
+        updateStyleSheet();
+    }
+}
+
+void CUseCaseEdit::resizeEvent(QResizeEvent *event)
+{
+    QLineEdit::resizeEvent(event);
+    showText();
+}
+
+} // namespace Plugin::Tessera::Internal::View
