@@ -14,7 +14,6 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
-#include <QPointer>
 #include <QScopedValueRollback>
 
 namespace Plugin::Tessera::Internal::View {
@@ -385,8 +384,9 @@ bool CFeatureTableView::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::KeyPress
         && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
         const QModelIndex value = focusedValue();
-        if (value.isValid()) {
+        if (QWidget *editor = value.isValid() ? indexWidget(value) : nullptr) {
             leaveEditor(value);
+            itemDelegate(value)->setEditorData(editor, value); // what the device has
             return true;
         }
     }
@@ -416,17 +416,13 @@ QModelIndex CFeatureTableView::focusedValue() const
 // closing, and with it the current row. What the user has begun to type is dropped.
 void CFeatureTableView::leaveEditor(const QModelIndex &value)
 {
-    const QPointer<QWidget> editor(value.isValid() ? indexWidget(value) : nullptr);
+    const QWidget *editor = value.isValid() ? indexWidget(value) : nullptr;
     const QWidget *focus = QApplication::focusWidget();
     if (!editor || !focus || (editor != focus && !editor->isAncestorOf(focus))) {
         return;
     }
-    const QPersistentModelIndex cell(value);
     const QScopedValueRollback<bool> dropping(m_dropsInput, true);
     setFocus(Qt::OtherFocusReason);
-    if (editor && cell.isValid()) {
-        itemDelegate(cell)->setEditorData(editor, cell);
-    }
 }
 
 void CFeatureTableView::rememberFocusedValue()

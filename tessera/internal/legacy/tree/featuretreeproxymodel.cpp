@@ -111,24 +111,21 @@ bool FeatureTreeProxyModel::childPasses(int sourceRow, const QModelIndex &source
     return false;
 }
 
-// A source that begins to load while this model maps its rows would be mapped twice.
-void FeatureTreeProxyModel::loadBelow(const QModelIndex &parent) const
+// False where there is no row below. A source that begins to load while this model maps its rows
+// would be mapped twice; the flat source counts as many rows below each row as at the top.
+bool FeatureTreeProxyModel::loadBelow(const QModelIndex &parent) const
 {
-    if (parent.isValid() && sourceModel()) {
-        sourceModel()->hasChildren(mapToSource(parent));
-    }
+    return !parent.isValid() || (sourceModel() && sourceModel()->hasChildren(mapToSource(parent)));
 }
 
 QModelIndex FeatureTreeProxyModel::index(int row, int column, const QModelIndex &parent) const
 {
-    loadBelow(parent);
-    return QSortFilterProxyModel::index(row, column, parent);
+    return loadBelow(parent) ? QSortFilterProxyModel::index(row, column, parent) : QModelIndex();
 }
 
 int FeatureTreeProxyModel::rowCount(const QModelIndex &parent) const
 {
-    loadBelow(parent);
-    return QSortFilterProxyModel::rowCount(parent);
+    return loadBelow(parent) ? QSortFilterProxyModel::rowCount(parent) : 0;
 }
 
 QModelIndex FeatureTreeProxyModel::createItemIndex(FeatureTreeItem *item, int column)

@@ -94,7 +94,7 @@ private:
     bool isOverTree() const;
     bool rowPasses(int sourceRow, const QModelIndex &sourceParent, Place place) const;
     bool childPasses(int sourceRow, const QModelIndex &sourceParent) const;
-    void loadBelow(const QModelIndex &parent) const;
+    bool loadBelow(const QModelIndex &parent) const;
     IFeatureTreeModelExtension *source() const;
 
     QStringList m_featureNames;
