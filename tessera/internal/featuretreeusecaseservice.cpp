@@ -14,14 +14,11 @@
 #include <QJsonObject>
 #include <QMap>
 
-namespace {
-
-void initResources()
+// Declares a function of its own, in the namespace that it stands in.
+static void initResources()
 {
-    Q_INIT_RESOURCE(tessera); // declares at the global scope
+    Q_INIT_RESOURCE(tessera);
 }
-
-} // namespace
 
 namespace Plugin::Tessera::Internal {
 
@@ -63,7 +60,8 @@ QString pickText(const QMap<QString, QString> &texts)
     if (own != texts.cend()) {
         return *own;
     }
-    logFault(QStringLiteral("Couldn't find correct translation for usecase: %1").arg(texts.first()));
+    logFault(
+        QStringLiteral("Couldn't find correct translation for usecase: %1").arg(texts.first()));
     return texts.first();
 }
 

@@ -133,9 +133,9 @@ bool FilterFile::apply(IParameterCollection &collection) const
     int line = 0;
     int column = 0;
     if (!document.setContent(&file, &problem, &line, &column)) {
-        logFault(QStringLiteral("Failed to parse file %1: %2 (%3, %4)")
-                     .arg(file.fileName(), problem, QString::number(line),
-                          QString::number(column)));
+        logFault(
+            QStringLiteral("Failed to parse file %1: %2 (%3, %4)")
+                .arg(file.fileName(), problem, QString::number(line), QString::number(column)));
         return false;
     }
     for (QDomElement rule = document.documentElement().firstChildElement(); !rule.isNull();

@@ -59,9 +59,8 @@ void SearchEdit::updateStyleSheet()
     const QString frame =
         QStringLiteral("QLineEdit { border: 1px solid palette(mid); border-radius: 0px; "
                        "background-color: %1}");
-    setStyleSheet(text().isEmpty()
-                      ? frame.arg(QStringLiteral("palette(button);"))
-                      : frame.arg(QColor(255, 167, 0).name() + QLatin1String("; ")));
+    setStyleSheet(text().isEmpty() ? frame.arg(QStringLiteral("palette(button);"))
+                                   : frame.arg(QColor(255, 167, 0).name() + QLatin1String("; ")));
 }
 
 void SearchEdit::changeEvent(QEvent *event)
