@@ -13,6 +13,7 @@ Rectangle {
     property alias button: removeButton
     property alias text: label.text
     property real scaling: 1
+    property real maximumWidth: Infinity
 
     width: (20 + 5) * scaling + label.width + 5 * scaling
     height: 5 * scaling + label.height + 5 * scaling
@@ -57,10 +58,12 @@ Rectangle {
             id: label
 
             Layout.alignment: Qt.AlignLeft
+            Layout.maximumWidth: feature.maximumWidth - (20 + 5 + 5) * feature.scaling
             Layout.bottomMargin: 2 * feature.scaling
             font.family: Styling.font__Segoe_UI
             font.pixelSize: Styling.font__Default_Size
             color: systemPalette.buttonText
+            elide: Text.ElideRight
         }
     }
 

@@ -156,7 +156,7 @@ FeatureOptionsMenu {
             Layout.fillWidth: true
             Layout.leftMargin: optionsMenu.sideMargin
             Layout.rightMargin: optionsMenu.sideMargin
-            Layout.preferredHeight: contentItem.childrenRect.height
+            Layout.preferredHeight: contentHeight
             spacing: 2
             focus: true
             interactive: false
@@ -282,7 +282,7 @@ FeatureOptionsMenu {
 
             objectName: "scrollView"
             Layout.fillWidth: true
-            Layout.preferredHeight: flow.height
+            Layout.preferredHeight: Math.ceil(flow.height)
             Layout.maximumHeight: defaultScrollViewHeight / optionsMenu.defaultWindowHeight
                                   * optionsMenu.height
             Layout.leftMargin: optionsMenu.sideMargin
@@ -299,8 +299,8 @@ FeatureOptionsMenu {
                 height: scrollView.height
                 palette.mid: optionsMenu.faded(systemPalette.text, 0.4)
                 palette.dark: optionsMenu.faded(systemPalette.text, 0.65)
-                visible: scrollView.visible
-                policy: size < 1 ? ScrollBar.AlwaysOn : ScrollBar.AlwaysOff
+                visible: scrollView.visible && size < 1
+                policy: ScrollBar.AlwaysOn
             }
 
             // The chip, which has the focus, goes, and the focus to the next one.
@@ -354,6 +354,7 @@ FeatureOptionsMenu {
                             objectName: "feature" + index
                             text: qsTr(modelData.name)
                             scaling: optionsMenu.scaling
+                            maximumWidth: flow.width
                             button.onActiveFocusChanged: {
                                 if (button.activeFocus) {
                                     flickable.reveal(chip);
