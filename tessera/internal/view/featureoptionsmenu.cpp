@@ -17,16 +17,9 @@ using ParameterCollection::ParameterName;
 
 namespace {
 
-constexpr int tabCount = 4;
-
-bool isTab(int userTabIndex)
+template<typename Array> auto &at(Array &tabs, int userTabIndex)
 {
-    return userTabIndex >= 0 && userTabIndex < tabCount;
-}
-
-QStringList noNames()
-{
-    return QVector<QString>(tabCount).toList();
+    return tabs.at(std::size_t(userTabIndex));
 }
 
 QVariant featureEntry(const ParameterName &feature)
@@ -47,25 +40,18 @@ QVariant featureEntries(const CFeatureOptionsMenu::NameList &list)
     return entries;
 }
 
+} // namespace
+
 // What was shown before becomes the saved state; there is nothing before the first value.
-template<typename Value>
-void take(const Value &value, Value &working, Value &saved, bool &isInitialised)
+template<typename Value> void CFeatureOptionsMenu::Edited<Value>::take(const Value &value)
 {
     saved = isInitialised ? working : value;
     isInitialised = true;
     working = value;
 }
 
-} // namespace
-
 CFeatureOptionsMenu::CFeatureOptionsMenu(QQuickItem *parent)
     : QQuickItem(parent)
-    , m_featureLists(tabCount)
-    , m_savedFeatureLists(tabCount)
-    , m_isListInitialised(tabCount, false)
-    , m_isNameInitialised(tabCount, false)
-    , m_userTabNames(noNames())
-    , m_savedUserTabNames(noNames())
 {
 }
 
@@ -76,7 +62,7 @@ QVariantList CFeatureOptionsMenu::featureLists() const
     QVariantList lists;
     if (m_parameterCollection) {
         std::transform(m_featureLists.cbegin(), m_featureLists.cend(), std::back_inserter(lists),
-                       &featureEntries);
+                       [](const Edited<NameList> &list) { return featureEntries(list.working); });
     }
     return lists;
 }
@@ -88,7 +74,10 @@ int CFeatureOptionsMenu::supportedUserTabCount() const
 
 QStringList CFeatureOptionsMenu::userTabNames() const
 {
-    return m_userTabNames;
+    QStringList names;
+    std::transform(m_userTabNames.cbegin(), m_userTabNames.cend(), std::back_inserter(names),
+                   [](const Edited<QString> &name) { return name.working; });
+    return names;
 }
 
 int CFeatureOptionsMenu::userTabIndex() const
@@ -135,8 +124,7 @@ void CFeatureOptionsMenu::setFeatureNameList(int userTabIndex, const NameList &l
     if (!isTab(userTabIndex)) {
         return;
     }
-    take(list, m_featureLists[userTabIndex], m_savedFeatureLists[userTabIndex],
-         m_isListInitialised[userTabIndex]);
+    at(m_featureLists, userTabIndex).take(list);
     Q_EMIT featureListsChanged(userTabIndex);
 }
 
@@ -145,20 +133,23 @@ void CFeatureOptionsMenu::setUserTabName(int userTabIndex, const QString &name)
     if (!isTab(userTabIndex)) {
         return;
     }
-    take(name, m_userTabNames[userTabIndex], m_savedUserTabNames[userTabIndex],
-         m_isNameInitialised[userTabIndex]);
+    at(m_userTabNames, userTabIndex).take(name);
     Q_EMIT userTabNamesChanged();
 }
 
 CFeatureOptionsMenu::NameList CFeatureOptionsMenu::featureNameList(int userTabIndex) const
 {
-    return m_featureLists.value(userTabIndex);
+    return isTab(userTabIndex) ? at(m_featureLists, userTabIndex).working : NameList();
 }
 
 void CFeatureOptionsMenu::revertChanges()
 {
-    m_userTabNames = m_savedUserTabNames;
-    m_featureLists = m_savedFeatureLists;
+    for (auto &name : m_userTabNames) {
+        name.working = name.saved;
+    }
+    for (auto &list : m_featureLists) {
+        list.working = list.saved;
+    }
     Q_EMIT userTabNamesChanged();
     announceAllFeatureLists();
 }
@@ -166,10 +157,11 @@ void CFeatureOptionsMenu::revertChanges()
 void CFeatureOptionsMenu::selectFirstNamedTab()
 {
     setUserTabIndex(0);
-    const auto named = std::find_if(m_userTabNames.cbegin(), m_userTabNames.cend(),
+    const QStringList names = userTabNames();
+    const auto named = std::find_if(names.cbegin(), names.cend(),
                                     [](const QString &name) { return !name.isEmpty(); });
-    if (named != m_userTabNames.cend()) {
-        setUserTabIndex(int(std::distance(m_userTabNames.cbegin(), named)));
+    if (named != names.cend()) {
+        setUserTabIndex(int(std::distance(names.cbegin(), named)));
     }
 }
 
@@ -182,13 +174,15 @@ void CFeatureOptionsMenu::setParameterCollection(
 
 void CFeatureOptionsMenu::onAddFeature(int userTabIndex, const QString &featureFullName)
 {
-    const ParameterName feature(featureFullName);
-    if (!m_parameterCollection || !isTab(userTabIndex)
-        || m_featureLists.at(userTabIndex).contains(feature)) {
+    if (!m_parameterCollection || !isTab(userTabIndex)) {
         return;
     }
-    m_featureLists[userTabIndex].append(feature);
-    Q_EMIT featureListsChanged(userTabIndex);
+    const ParameterName feature(featureFullName);
+    NameList &list = at(m_featureLists, userTabIndex).working;
+    if (!list.contains(feature)) {
+        list.append(feature);
+        Q_EMIT featureListsChanged(userTabIndex);
+    }
 }
 
 void CFeatureOptionsMenu::onRemoveFeature(int userTabIndex, const QString &featureFullName)
@@ -196,7 +190,8 @@ void CFeatureOptionsMenu::onRemoveFeature(int userTabIndex, const QString &featu
     if (!m_parameterCollection || !isTab(userTabIndex)) {
         return;
     }
-    if (m_featureLists[userTabIndex].removeAll(ParameterName(featureFullName)) > 0) {
+    NameList &list = at(m_featureLists, userTabIndex).working;
+    if (list.removeAll(ParameterName(featureFullName)) > 0) {
         Q_EMIT featureListsChanged(userTabIndex);
     }
 }
@@ -206,19 +201,24 @@ void CFeatureOptionsMenu::onRemove(int userTabIndex)
     if (!isTab(userTabIndex)) {
         return;
     }
-    m_userTabNames[userTabIndex].clear();
-    m_featureLists[userTabIndex].clear();
+    at(m_userTabNames, userTabIndex).working.clear();
+    at(m_featureLists, userTabIndex).working.clear();
     Q_EMIT userTabNamesChanged();
     Q_EMIT featureListsChanged(userTabIndex);
 }
 
 void CFeatureOptionsMenu::onNameChanged(int userTabIndex, const QString &userTabName)
 {
-    if (!isTab(userTabIndex) || m_userTabNames.at(userTabIndex) == userTabName) {
+    if (!isTab(userTabIndex) || at(m_userTabNames, userTabIndex).working == userTabName) {
         return;
     }
-    m_userTabNames[userTabIndex] = userTabName;
+    at(m_userTabNames, userTabIndex).working = userTabName;
     Q_EMIT userTabNamesChanged();
+}
+
+bool CFeatureOptionsMenu::isTab(int userTabIndex)
+{
+    return userTabIndex >= 0 && userTabIndex < tabCount;
 }
 
 void CFeatureOptionsMenu::announceAllFeatureLists()

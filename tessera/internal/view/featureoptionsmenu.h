@@ -11,7 +11,8 @@
 #include <QString>
 #include <QStringList>
 #include <QVariantList>
-#include <QVector>
+
+#include <array>
 
 namespace ParameterCollection {
 class IParameterCollection;
@@ -93,15 +94,24 @@ Q_SIGNALS:
     void dragHandIconUrlChanged();
 
 private:
+    static constexpr int tabCount = 4;
+
+    // A value as the user edits it, and what a cancel goes back to.
+    template<typename Value> struct Edited
+    {
+        Value working;
+        Value saved;
+        bool isInitialised = false;
+
+        void take(const Value &value);
+    };
+
+    static bool isTab(int userTabIndex);
     void announceAllFeatureLists();
 
     QSharedPointer<ParameterCollection::IParameterCollection> m_parameterCollection;
-    QVector<NameList> m_featureLists;
-    QVector<NameList> m_savedFeatureLists;
-    QVector<bool> m_isListInitialised;
-    QVector<bool> m_isNameInitialised;
-    QStringList m_userTabNames;
-    QStringList m_savedUserTabNames;
+    std::array<Edited<NameList>, tabCount> m_featureLists;
+    std::array<Edited<QString>, tabCount> m_userTabNames;
     int m_userTabIndex = -1;
 };
 

@@ -40,7 +40,7 @@ double primaryDotsPerInch()
 
 Qt::WindowFlags optionsWindowFlags(bool staysOnTop)
 {
-    return Qt::WindowFlags(staysOnTop ? flagsOnTop : flagsBelow);
+    return {staysOnTop ? flagsOnTop : flagsBelow};
 }
 
 QSize optionsWindowSize(double dotsPerInch)

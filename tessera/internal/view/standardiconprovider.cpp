@@ -12,7 +12,7 @@ namespace Plugin::Tessera::Internal::View {
 namespace {
 
 // A scene that sets no source size asks for none.
-QSize usableSize(const QSize &requested)
+QSize usableSize(QSize requested)
 {
     constexpr int usual = 16;
     return {requested.width() > 0 ? requested.width() : usual,

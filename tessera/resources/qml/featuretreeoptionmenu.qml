@@ -88,7 +88,13 @@ FeatureOptionsMenu {
 
     Shortcut {
         sequence: "Escape"
-        onActivated: optionsMenu.cancel()
+        onActivated: {
+            // A name half typed is taken first, so that it is reverted with the others.
+            if (editTabNameListView.currentItem) {
+                editTabNameListView.currentItem.changed();
+            }
+            optionsMenu.cancel();
+        }
     }
 
     Rectangle {

@@ -9,7 +9,9 @@
 
 #include <QTest>
 
+#include <algorithm>
 #include <functional>
+#include <iterator>
 #include <map>
 #include <string>
 
@@ -100,7 +102,8 @@ private Q_SLOTS:
                 [&](int tab) { emitted += QString::number(tab); });
         connect(&menu, &CFeatureOptionsMenu::userTabIndexChanged,
                 [&] { emitted += QLatin1Char('S') + QString::number(menu.userTabIndex()); });
-        for (const QString &step : steps.split(QStringLiteral("; "))) {
+        const QStringList allSteps = steps.split(QStringLiteral("; "));
+        for (const QString &step : allSteps) {
             emitted.clear();
             perform(menu, step.split(QLatin1Char(' ')));
         }
@@ -118,21 +121,22 @@ private Q_SLOTS:
         menu.onAddFeature(2, width);
         menu.onAddFeature(2, QStringLiteral("@StreamGrabber0/Type/Deep"));
         QCOMPARE(menu.featureLists().size(), menu.supportedUserTabCount());
-        QStringList texts;
-        for (const QVariant &feature : menu.featureLists().at(2).toList()) {
-            texts.append(feature.toMap().value(QStringLiteral("name")).toString());
-            texts.append(feature.toMap().value(QStringLiteral("fullName")).toString());
+        const QVariantList features = menu.featureLists().at(2).toList();
+        QString texts;
+        for (const QVariant &feature : features) {
+            texts += feature.toMap().value(QStringLiteral("name")).toString() + QLatin1Char('=')
+                + feature.toMap().value(QStringLiteral("fullName")).toString() + QLatin1Char(' ');
         }
         QCOMPARE(texts,
-                 QStringList({QStringLiteral("Image Width"), width, QStringLiteral("Deep"),
-                              QStringLiteral("@StreamGrabber0/Type/Deep")}));
+                 QStringLiteral("Image Width=@CameraDevice/Width Deep=@StreamGrabber0/Type/Deep "));
     }
 
 private:
     static QString state(const CFeatureOptionsMenu &menu, int tab)
     {
         QString text = menu.userTabNames().at(tab) + QLatin1Char('=');
-        for (const ParameterName &feature : menu.featureNameList(tab)) {
+        const auto list = menu.featureNameList(tab);
+        for (const ParameterName &feature : list) {
             text += feature.toString();
         }
         return text;
@@ -144,9 +148,9 @@ private:
         const int tab = words.value(1).toInt();
         const QString word = words.value(2);
         CFeatureOptionsMenu::NameList list;
-        for (const QString &feature : words.mid(2)) {
-            list.append(ParameterName(feature));
-        }
+        std::transform(words.cbegin() + qMin(2, words.size()), words.cend(),
+                       std::back_inserter(list),
+                       [](const QString &feature) { return ParameterName(feature); });
         const auto confirm = [&menu, tab] {
             menu.setFeatureNameList(tab, menu.featureNameList(tab));
             menu.setUserTabName(tab, menu.userTabNames().at(tab));
