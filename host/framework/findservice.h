@@ -20,7 +20,7 @@ QSharedPointer<T> findService(const QSharedPointer<Core::Service::IServiceRegist
     const QReadLocker locker(registry->lock());
     const QList<QSharedPointer<Core::Service::IService>> services = registry->services();
     for (const QSharedPointer<Core::Service::IService> &service : services) {
-        if (const auto found = service.objectCast<T>()) {
+        if (auto found = service.objectCast<T>()) {
             return found;
         }
     }

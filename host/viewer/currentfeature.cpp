@@ -15,7 +15,7 @@ CurrentFeature::CurrentFeature(QObject *parent)
 }
 
 void CurrentFeature::follow(
-    const QSharedPointer<Plugin::FeatureTree::IFeatureTreeStatusService> &service)
+    const QSharedPointer<Plugin::FeatureTree::IFeatureTreeStatusService> &service) const
 {
     if (service) {
         connect(service.data(), &Plugin::FeatureTree::IFeatureTreeStatusService::currentChanged,

@@ -23,7 +23,8 @@ public:
     explicit CurrentFeature(QObject *parent = nullptr);
 
     /// Listens to what the panes report. `service` may be null.
-    void follow(const QSharedPointer<Plugin::FeatureTree::IFeatureTreeStatusService> &service);
+    void follow(
+        const QSharedPointer<Plugin::FeatureTree::IFeatureTreeStatusService> &service) const;
 
     /// Null when nothing is current. A parameter whose source was closed stays here until another
     /// one comes; its `isNull()` tells.

@@ -5,11 +5,13 @@
 #include "qtmessages.h"
 #include "viewerapplication.h"
 
+#include <host/framework/guardedcall.h>
 #include <host/framework/languagechoice.h>
 #include <host/framework/quick.h>
-#include <plugin/contract/core/baseexception.h>
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QSettings>
@@ -56,9 +58,14 @@ bool choosePlatform(const Viewer::Options &options, bool needsNoWindow)
     return hasScreen;
 }
 
+/// Throws `CommandLineError` for a folder in which nothing could be kept.
 void useSettingsFolder(const QString &folder)
 {
     if (!folder.isEmpty()) {
+        if (!QDir().mkpath(folder) || !QFileInfo(folder).isWritable()) {
+            throw Viewer::CommandLineError(
+                QStringLiteral("settings cannot be kept in \"%1\"").arg(folder));
+        }
         QSettings::setDefaultFormat(QSettings::IniFormat);
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder);
     }
@@ -75,7 +82,6 @@ void installQtTranslation(const QString &language)
 
 int run(const Viewer::Options &options)
 {
-    useSettingsFolder(options.settings);
     if (!options.language.isEmpty()) {
         Host::LanguageChoice::setOverride(options.language);
     }
@@ -86,14 +92,12 @@ int run(const Viewer::Options &options)
     QObject::connect(
         &viewer, &Viewer::ViewerApplication::finished, qApp,
         [](int exitCode) { QCoreApplication::exit(exitCode); }, Qt::QueuedConnection);
-    try {
+    const auto failure = Host::exceptionOf([&viewer] {
         viewer.start(QCoreApplication::applicationDirPath()
                      + QStringLiteral("/../" TESSERA_PLUGIN_DIR));
-    } catch (const std::exception &e) {
-        complain(QString::fromUtf8(e.what()));
-        return exitRefused;
-    } catch (const Core::Exception::BaseException &e) {
-        complain(QString::fromUtf8(e.what()));
+    });
+    if (failure) {
+        complain(*failure);
         return exitRefused;
     }
     const int exitCode = QApplication::exec();
@@ -116,6 +120,7 @@ int main(int argc, char *argv[])
     Viewer::Options options;
     try {
         options = commandLine.parse(argumentList(argc, argv));
+        useSettingsFolder(options.settings);
     } catch (const Viewer::CommandLineError &e) {
         complain(QString::fromUtf8(e.what()));
         return exitRefused;

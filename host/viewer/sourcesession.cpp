@@ -10,7 +10,9 @@
 #include <host/framework/sourcerecord.h>
 #include <host/simulation/simulatedcollection.h>
 #include <host/simulation/simulatedsource.h>
+#include <plugin/contract/core/baseexception.h>
 #include <plugin/contract/core/logging.h>
+#include <plugin/contract/genapi/genericexception.h>
 #include <plugin/contract/viewer/exceptiondialogs.h>
 #include <plugin/contract/viewer/featuretreecontrolservice.h>
 
@@ -45,6 +47,25 @@ void logProblem(const QString &problem)
 {
     static const quint64 category = Core::Logging::getCatId("vantrel.viewer.sources");
     Core::Logging::createLogEntry(Core::Logging::ELogLevel::Fault, category, problem);
+}
+
+// False, and the user was told, when the source did not open.
+bool openSource(Simulation::SimulatedSource &source, const QString &complaint)
+{
+    const auto where = QStringLiteral("Viewer::SourceSession::open");
+    try {
+        source.open();
+        return true;
+    } catch (const GenICam::GenericException &e) {
+        showException(where, e, complaint, nullptr);
+    } catch (const std::exception &e) {
+        showException(where, e, complaint, nullptr);
+    } catch (const Core::Exception::BaseException &e) {
+        showException(where, e, complaint, nullptr);
+    } catch (...) {
+        showUnexpectedException(where, complaint, nullptr);
+    }
+    return false;
 }
 
 } // namespace
@@ -153,11 +174,7 @@ void SourceSession::open(int index)
         setActive(index);
         return;
     }
-    try {
-        opening->source->open();
-    } catch (const std::exception &e) {
-        showException(QStringLiteral("Viewer::SourceSession::open"), e,
-                      tr("%1 could not be opened.").arg(displayName(index)), nullptr);
+    if (!openSource(*opening->source, tr("%1 could not be opened.").arg(displayName(index)))) {
         return;
     }
     opening->isOpen = true;

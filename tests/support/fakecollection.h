@@ -83,7 +83,8 @@ public:
     void attach(const QString &path, const QString &text);
     /// The memory of a node that exists.
     FakeNode &node(const QString &fullName);
-    /// Publications come through the event loop, as over a wire.
+    /// Publications come through the event loop, as over a wire; so they do from the start where
+    /// the environment has TESSERA_DELAYED_PUBLICATION.
     void setDelayed(bool delayed);
 
     QHash<QString, Fault> onParameter; ///< by path
@@ -107,7 +108,7 @@ private:
     QStringList m_paths;
     QMap<QString, QSharedPointer<FakeNode>> m_nodes;
     QMap<QString, QSharedPointer<ParameterCollection::IParameter>> m_parameters;
-    bool m_delayed = false;
+    bool m_delayed = qEnvironmentVariableIsSet("TESSERA_DELAYED_PUBLICATION");
 };
 
 } // namespace Tests

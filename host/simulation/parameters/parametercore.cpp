@@ -46,10 +46,23 @@ Snapshot ParameterCore::last() const
     return m_last;
 }
 
+Snapshot ParameterCore::published() const
+{
+    return m_published;
+}
+
+Snapshot ParameterCore::takeForPublication()
+{
+    m_published = m_last;
+    return m_last;
+}
+
 Snapshot ParameterCore::reread() const
 {
     m_last = m_library->read(m_id);
     m_isCurrent = true;
+    if (!m_published)
+        m_published = m_last;
     return m_last;
 }
 
@@ -62,6 +75,7 @@ void ParameterCore::forget()
 {
     m_isCurrent = false;
     m_last.clear();
+    m_published.clear();
 }
 
 void ParameterCore::write(const Value &value, bool verify)
@@ -74,9 +88,9 @@ void ParameterCore::writeText(const QString &text)
     Value value;
     try {
         // A float's own text is rounded; given back, it means the value that it stands for.
-        value = text == snapshot()->valueText && feature().type == ParameterCollection::Float
-            ? m_library->device().value(m_id)
-            : valueFromText(feature(), text);
+        const bool isOwnText = feature().type == ParameterCollection::Float
+            && snapshot()->isReadable && text == snapshot()->valueText;
+        value = isOwnText ? m_library->device().value(m_id) : valueFromText(feature(), text);
     } catch (...) {
         m_library->restore(m_id);
         throw;

@@ -30,6 +30,10 @@ public:
     Snapshot snapshot() const;
     /// The snapshot made last, however old; null where there was none.
     Snapshot last() const;
+    /// The snapshot that receivers were given last; before that, the first one that was made.
+    Snapshot published() const;
+    /// The last snapshot, which receivers are given now.
+    Snapshot takeForPublication();
     /// Reads from the device. Throws as a read does.
     Snapshot reread() const;
     /// The next access reads from the device.
@@ -48,6 +52,7 @@ private:
     QSharedPointer<ParameterLibrary> m_library;
     int m_id;
     mutable Snapshot m_last;
+    mutable Snapshot m_published;
     mutable bool m_isCurrent = false;
 };
 

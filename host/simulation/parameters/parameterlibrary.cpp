@@ -144,7 +144,7 @@ void ParameterLibrary::refresh(int id, bool force)
 {
     m_counters.count(description().fullName(id), &AccessCounts::refreshes);
     requireLive(id);
-    const Snapshot before = core(id)->last();
+    const Snapshot before = core(id)->published();
     const Snapshot now = core(id)->reread();
     if (force || (now->isImplemented && !sayTheSame(before, now)))
         publish({id});
@@ -207,24 +207,44 @@ void ParameterLibrary::submit(int id, const std::function<QVector<int>()> &opera
 
 void ParameterLibrary::requireOverride(int id) const
 {
-    if (isWritable(overrides(id).access(AccessMode::ReadWrite)))
+    const auto &rules = description().feature(id).rules;
+    const int target = rules && rules->aliasOf >= 0 ? rules->aliasOf : id;
+    if (isWritable(overrides(id).access(AccessMode::ReadWrite))
+        && isWritable(overrides(target).access(AccessMode::ReadWrite)))
         return;
     const QString line =
         QStringLiteral("%1: an override forbids writing").arg(description().fullName(id));
     throw GenICam::GenericException(line.toStdString(), __FILE__, __LINE__);
 }
 
+// An editor of a companion shows the other one as well.
 void ParameterLibrary::restore(int id)
 {
+    QVector<int> ids {id};
+    const auto &rules = description().feature(id).rules;
+    if (rules && rules->aliasOf >= 0)
+        ids.append(rules->aliasOf);
     if (m_isLive)
-        renewAndPublish({id}, {id});
+        renewAndPublish(ids, ids);
 }
 
+// What a selector selects has another value now, though nobody wrote it: its own dependants follow.
 QVector<int> ParameterLibrary::withDependants(const QVector<int> &ids) const
 {
-    QVector<int> all = ids;
-    for (int id : ids)
-        all += description().feature(id).dependants;
+    QVector<int> all;
+    QSet<int> seen;
+    QVector<int> changed = ids;
+    while (!changed.isEmpty()) {
+        const int id = changed.takeFirst();
+        all.append(id);
+        for (int dependant : description().feature(id).dependants) {
+            all.append(dependant);
+            const auto &rules = description().feature(dependant).rules;
+            if (rules && rules->selectedBy.id == id && !seen.contains(dependant))
+                changed.append(dependant);
+            seen.insert(dependant);
+        }
+    }
     return all;
 }
 
@@ -248,7 +268,7 @@ bool ParameterLibrary::renew(int id, bool always)
         parameter->forget();
         return false;
     }
-    const Snapshot before = parameter->last();
+    const Snapshot before = parameter->published();
     parameter->drop();
     try {
         const Snapshot now = parameter->reread();
@@ -278,7 +298,7 @@ void ParameterLibrary::publish(const QVector<int> &ids)
     // A receiver may write: then that write has published the final snapshot of an id already.
     for (int id : ids) {
         if (m_unpublished.remove(id) && core(id) && core(id)->last())
-            m_publisher.publish(id, core(id)->last());
+            m_publisher.publish(id, core(id)->takeForPublication());
     }
 }
 

@@ -33,6 +33,8 @@ private Q_SLOTS:
     void reportsWhatHangsOnAChangeOfTheCamera();
     void publishesNothingThatNobodyListensTo();
     void publishesAWriteAndItsDependantsBeforeItReturns();
+    void publishesWhatHangsOnASelectedFeature();
+    void publishesAChangeThatWasMissedByAFault();
     void publishesTheAliasBeforeItsFloat_data();
     void publishesTheAliasBeforeItsFloat();
     void publishesOneFinalSnapshotWhenAReceiverWrites();
@@ -184,6 +186,29 @@ void TestPublication::publishesAWriteAndItsDependantsBeforeItReturns()
     QCOMPARE(strangerSpy.count(), 0);
 }
 
+void TestPublication::publishesWhatHangsOnASelectedFeature()
+{
+    const auto filter = parameter("InputFilter");
+    SnapshotSpy spy(filter);
+    parameter("LineSelector")->setFromString(QStringLiteral("Line2"));
+    QCOMPARE(spy.count(), 1);
+    QVERIFY(!filter->parameterData()->isWritable);
+}
+
+void TestPublication::publishesAChangeThatWasMissedByAFault()
+{
+    const auto width = parameter("Width");
+    QVERIFY(width->parameterData());
+    SnapshotSpy spy(width);
+    m_collection->faults().failReads(cameraPath("Width"), FaultKind::StdException);
+    m_collection->changeOnDevice(cameraPath("Width"), 320);
+    m_collection->endBatchUpdate();
+    m_collection->faults().clearAll();
+    QVERIFY(width->isWritable()); // reads it again, in silence
+    m_collection->endBatchUpdate();
+    QCOMPARE(spy.text(), QStringLiteral("320"));
+}
+
 void TestPublication::publishesTheAliasBeforeItsFloat_data()
 {
     QTest::addColumn<QString>("written");
@@ -247,6 +272,8 @@ void TestPublication::publishesTheOldValueAfterARefusedWrite_data()
                                      << "nan";
     QTest::newRow("empty float") << "ExposureTime"
                                  << "";
+    QTest::newRow("empty write-only float") << "Setpoint"
+                                            << "";
     QTest::newRow("unknown entry") << "PixelFormat"
                                    << "Mono7";
     QTest::newRow("entry that is not available") << "PixelFormat"

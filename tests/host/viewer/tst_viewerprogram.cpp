@@ -64,6 +64,7 @@ void ViewerProgramTest::refusesWithOneLineAndExitCodeTwo_data()
         "NoSuchFeature");
     row("picture into a folder that is not there", "--screenshot no/such/folder/a.png",
         "no/such/folder/a.png");
+    row("settings in a file", "--print-features --settings " VIEWER_PROGRAM, VIEWER_PROGRAM);
     row("a window without a screen", "--source simulated:gige", "DISPLAY");
 }
 

@@ -147,6 +147,7 @@ private Q_SLOTS:
         QCOMPARE(treeShown(), QStringLiteral("One\n  Image\n    Width: 640\n"));
         const BaseInfoPtr second = addCamera(QStringLiteral("Two"));
         QStringList roots {rootShown()};
+        roots.reserve(6);
         for (const BaseInfoPtr &active : {first, first, BaseInfoPtr(), second, source("Device")}) {
             m_control->setActiveParameterSource(active);
             roots.append(rootShown());

@@ -5,10 +5,11 @@
 
 #include <QtGlobal>
 
+#include <atomic>
+
 class QString;
 
-/// The log of one editor class. The category is resolved with the first entry. Used on the GUI
-/// thread.
+/// The log of one editor class. The category is resolved with the first entry.
 class EditorLog final
 {
 public:
@@ -23,5 +24,5 @@ public:
 
 private:
     const char *m_category; // borrowed: a constant
-    quint64 m_categoryId = 0;
+    std::atomic<quint64> m_categoryId {0};
 };

@@ -34,6 +34,7 @@ private Q_SLOTS:
         QSettings().setValue(m_key, QStringLiteral("r1:b;c;d:e:f;g:h;r2:x;r2:y;"));
         loadDisplayNameCache();
         QStringList names;
+        names.reserve(6);
         for (const char *name : {"r1", "c", "d", "g", "r2", "r3"}) {
             names.append(cachedDisplayName(QString::fromLatin1(name)));
         }

@@ -55,6 +55,11 @@ private Q_SLOTS:
 private:
     void add(const QString &lines);
     QWidget *open();
+    void publish() const
+    {
+        node().publish();
+        QCoreApplication::processEvents(); // where it is delayed
+    }
     QModelIndex index() const
     {
         return findRow(*m_model, QStringLiteral("F"), 1);
@@ -111,6 +116,7 @@ void tst_FeatureTreeDelegate::add(const QString &lines)
     if (auto *feature = item()) {
         feature->subscribe();
         feature->requestRefresh();
+        QCoreApplication::processEvents(); // where it is delayed
     }
 }
 
@@ -220,7 +226,7 @@ void tst_FeatureTreeDelegate::writesNoTextThatStandsForAValue()
 {
     add(QStringLiteral("F Integer 4 rep=HexNumber"));
     node().isReadable = false;
-    node().publish();
+    publish();
     QPointer<QWidget> editor = open();
     QVERIFY(editor);
     QTest::keyClick(editor, Qt::Key_Return);
@@ -240,7 +246,7 @@ void tst_FeatureTreeDelegate::leavesATextAloneThatIsBeingTyped()
     QVERIFY(editor && editor->hasFocus());
     QTest::keyClicks(editor, QStringLiteral("typ"));
     node().text = "device";
-    node().publish();
+    publish();
     m_delegate->setEditorData(editor, index());
     QCOMPARE(editor->text(), QStringLiteral("typ"));
     QLineEdit idle(m_view->viewport());
@@ -255,7 +261,7 @@ void tst_FeatureTreeDelegate::showsASnapshotInAnEditorThatDecidesForItself()
     QVERIFY(editor && editor->hasFocus());
     QCOMPARE(editor->currentText(), QStringLiteral("A"));
     node().text = "B";
-    node().publish();
+    publish();
     m_delegate->setEditorData(editor, index());
     QCOMPARE(editor->currentText(), QStringLiteral("B"));
 }
@@ -263,6 +269,7 @@ void tst_FeatureTreeDelegate::showsASnapshotInAnEditorThatDecidesForItself()
 // A view still uses the editor after the delegate has written its value.
 void tst_FeatureTreeDelegate::keepsAnEditorThatClosesInsideItsCommit()
 {
+    m_collection->setDelayed(false); // else it is not inside
     add(QStringLiteral("F Boolean 0"));
     QPointer<QWidget> editor = open();
     connect(m_model.get(), &QAbstractItemModel::dataChanged, this, [&] {

@@ -124,6 +124,7 @@ void tst_FeatureTreeView::receive(const char *name)
     auto *item = qobject_cast<FeatureTreeINodeItem *>(m_features->itemFromIndex(value(name)));
     item->subscribe();
     item->requestRefresh();
+    QCoreApplication::processEvents(); // where it is delayed
     item->unsubscribe();
     m_view->dataChanged(value(name), value(name));
 }
