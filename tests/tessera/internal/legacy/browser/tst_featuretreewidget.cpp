@@ -507,6 +507,7 @@ private:
         tree()->scrollTo(index);
         QTest::mouseClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier,
                           tree()->visualRect(index).center());
+        QCoreApplication::processEvents(); // where answers are late
     }
     /// The names of the rows that can be seen in the table.
     QString shown() const
