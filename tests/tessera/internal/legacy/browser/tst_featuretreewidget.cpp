@@ -184,7 +184,7 @@ private Q_SLOTS:
         QTest::keyClicks(width, QStringLiteral("800"));
         QTest::keyClick(width, Qt::Key_Return);
         QTRY_COMPARE(node("Width").writes, QStringList(QStringLiteral("800")));
-        QCOMPARE(tableRow("Width", 1).data().toString(), QStringLiteral("800"));
+        QTRY_COMPARE(tableRow("Width", 1).data().toString(), QStringLiteral("800"));
     }
 
     void tellsTheCurrentParameter()
