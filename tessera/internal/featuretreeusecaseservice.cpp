@@ -6,6 +6,7 @@
 #include "plugin/constants/logcategories.h"
 #include "plugin/contract/core/languagehelper.h"
 #include "plugin/contract/core/logging.h"
+#include "plugin/services/pluginresources.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,15 +14,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMap>
-
-namespace {
-
-void initResources()
-{
-    Q_INIT_RESOURCE(tessera); // declares at the global scope
-}
-
-} // namespace
 
 namespace Plugin::Tessera::Internal {
 
@@ -43,7 +35,7 @@ QMap<QString, QString> textsByLanguage(const QJsonArray &names)
         const QJsonObject name = entry.toObject();
         const QJsonValue text = name.value(QLatin1String("Text"));
         const QJsonValue code = name.value(QLatin1String("LanguageCode"));
-        if (text.isUndefined() || code.isUndefined()) {
+        if (!text.isString() || code.isUndefined()) {
             continue;
         }
         if (code.toString().isEmpty() || texts.contains(code.toString())) {
@@ -63,7 +55,8 @@ QString pickText(const QMap<QString, QString> &texts)
     if (own != texts.cend()) {
         return *own;
     }
-    logFault(QStringLiteral("Couldn't find correct translation for usecase: %1").arg(texts.first()));
+    logFault(
+        QStringLiteral("Couldn't find correct translation for usecase: %1").arg(texts.first()));
     return texts.first();
 }
 

@@ -28,6 +28,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QComboBox>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QItemSelectionModel>
