@@ -14,6 +14,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QScopedValueRollback>
 
 namespace Plugin::Tessera::Internal::View {
@@ -279,6 +280,10 @@ void CFeatureTableView::openInlineEditor(const QModelIndex &value)
     for (QWidget *part : parts) {
         if (part->window() == window() && part->focusPolicy() != Qt::NoFocus) {
             part->installEventFilter(this);
+        }
+        // The base selects the text of a line, which looks as if it had the keyboard.
+        if (auto *line = qobject_cast<QLineEdit *>(part)) {
+            line->deselect();
         }
     }
 }

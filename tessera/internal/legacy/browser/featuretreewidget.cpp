@@ -18,6 +18,7 @@
 #include "internal/legacy/tree/featuretreeview.h"
 #include "internal/model/featuretablemodel.h"
 #include "internal/view/featuretableview.h"
+#include "internal/view/screenratio.h"
 #include "internal/view/treeviewheaderview.h"
 #include "internal/view/usecaseedit.h"
 #include "plugin/constants/logcategories.h"
@@ -49,6 +50,10 @@ using Plugin::Tessera::Internal::View::CTreeViewHeaderView;
 using Plugin::Tessera::Internal::View::CUseCaseEdit;
 
 namespace {
+
+// In pixels at 96 dpi.
+constexpr double categoryColumnWidth = 250.0;
+constexpr double nameColumnWidth = 220.0;
 
 void logEntry(Core::Logging::ELogLevel level, const QString &text)
 {
@@ -110,6 +115,9 @@ void FeatureTreeWidget::replaceHeaders()
     m_ui->tableView->setHorizontalHeader(tableHeader);
     useHeader(tableHeader);
     tableHeader->setStretchLastSection(true);
+    // Until the user chooses other widths; the usual names fit.
+    setCategoryColumnWidth(static_cast<int>(screenRatio() * categoryColumnWidth));
+    m_ui->tableView->setColumnWidth(0, static_cast<int>(screenRatio() * nameColumnWidth));
     m_ui->treeView->setMouseTracking(true);
     m_ui->tableView->setMouseTracking(true);
 }

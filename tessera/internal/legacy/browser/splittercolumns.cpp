@@ -18,7 +18,9 @@ SplitterColumns::SplitterColumns(QSplitter *splitter)
 
 void SplitterColumns::setTreeWidth(int width)
 {
-    m_pendingWidth = apply(width) ? -1 : width;
+    if (width >= 0) {
+        m_pendingWidth = apply(width) ? -1 : width;
+    }
 }
 
 bool SplitterColumns::apply(int width)

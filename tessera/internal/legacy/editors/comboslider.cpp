@@ -23,8 +23,8 @@ EditorLog editorLog(Plugin::Tessera::LogCategories::ComboSlider);
 
 ComboSlider::ComboSlider(QWidget *parent)
     : QWidget(parent)
-    , m_spinBox(new VantrelQtSpinBox)
-    , m_slider(new CellSlider)
+    , m_spinBox(new VantrelQtSpinBox(this))
+    , m_slider(new CellSlider(this))
 {
     m_editBoxWidth = layOutSlider(this, m_spinBox, m_slider);
     connect(m_slider, &QSlider::valueChanged, this, &ComboSlider::onSliderValueChanged);

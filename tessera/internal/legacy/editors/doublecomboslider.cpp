@@ -14,8 +14,8 @@
 
 DoubleComboSlider::DoubleComboSlider(QWidget *parent)
     : QWidget(parent)
-    , m_slider(new CellSlider)
-    , m_spinBox(new VantrelQtDoubleSpinBox)
+    , m_slider(new CellSlider(this))
+    , m_spinBox(new VantrelQtDoubleSpinBox(this))
     , m_eventCatcher(new SpinBoxEventCatcher)
 {
     m_editBoxWidth = layOutSlider(this, m_spinBox, m_slider);

@@ -14,7 +14,7 @@
 
 DoubleSpinBox::DoubleSpinBox(QWidget *parent, const QString &representation)
     : QWidget(parent)
-    , m_spinBox(new VantrelQtDoubleSpinBox)
+    , m_spinBox(new VantrelQtDoubleSpinBox(this))
     , m_eventCatcher(new SpinBoxEventCatcher)
 {
     auto *layout = new QHBoxLayout(this);

@@ -1,0 +1,299 @@
+// SPDX-FileCopyrightText: 2026 Tessera contributors
+// SPDX-License-Identifier: MIT
+
+#include "internal/view/optionswindow.h"
+
+#include "internal/view/featureoptionsmenu.h"
+#include "internal/view/standardiconprovider.h"
+#include "support/fakecollection.h"
+#include "support/warningguard.h"
+
+#include <QAccessible>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickView>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <map>
+#include <memory>
+
+using namespace Plugin::Tessera::Internal::View;
+
+namespace {
+
+QQuickItem *find(QQuickItem *item, const char *name)
+{
+    if (item->objectName() == QLatin1String(name)) {
+        return item;
+    }
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children) {
+        if (QQuickItem *found = find(child, name)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class tst_OptionsWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        registerOptionsWindowTypes();
+    }
+
+    void init()
+    {
+        m_guard.begin();
+        m_window.reset(createOptionsWindow());
+        m_menu = qobject_cast<CFeatureOptionsMenu *>(m_window->rootObject());
+        QVERIFY(m_menu);
+        m_menu->setParameterCollection(QSharedPointer<Tests::FakeCollection>::create());
+        // By name, as the signals are the scene's.
+        const QMetaObject *type = m_menu->metaObject();
+        const std::map<const char *, const char *> connections {
+            {"nameChanged(int,QString)", "onNameChanged(int,QString)"},
+            {"addFeature(int,QString)", "onAddFeature(int,QString)"},
+            {"removeFeature(int,QString)", "onRemoveFeature(int,QString)"},
+            {"remove(int)", "onRemove(int)"},
+        };
+        for (const auto &[signal, slot] : connections) {
+            QVERIFY(QMetaObject::connect(m_menu, type->indexOfSignal(signal), m_menu,
+                                         type->indexOfSlot(slot)));
+        }
+    }
+
+    void cleanup()
+    {
+        m_window.reset();
+        m_guard.verify();
+    }
+
+    void isAToolWindowOfTheScreensSize()
+    {
+        QVERIFY(!m_window->isVisible());
+        QCOMPARE(m_window->flags(), Qt::WindowFlags(0x0204100B));
+        QCOMPARE(m_window->title(), QStringLiteral(" "));
+        const double factor = m_window->screen()->logicalDotsPerInch() / 96.0;
+        QCOMPARE(m_window->size(), QSize(int(factor * 350), int(factor * 440)));
+        QCOMPARE(m_window->minimumSize(), m_window->size());
+        QCOMPARE(optionsWindowSize(100.0), QSize(364, 458));
+        QCOMPARE(m_menu->objectName(), QStringLiteral("_optionsMenu"));
+        show();
+        m_window->resize(m_window->size() * 2);
+        QTRY_COMPARE(m_menu->size().toSize(), m_window->size());
+    }
+
+    void namesATabAndSelectsAnother()
+    {
+        show();
+        press(Qt::Key_A);
+        QVERIFY(m_menu->userTabNames().at(0).isEmpty());
+        click(row(2));
+        QCOMPARE(m_menu->userTabIndex(), 2);
+        QCOMPARE(m_menu->userTabNames().at(0), QStringLiteral("a"));
+        QVERIFY(field(2)->hasActiveFocus());
+        press(Qt::Key_C);
+        press(Qt::Key_Return);
+        QCOMPARE(m_menu->userTabNames().at(2), QStringLiteral("c"));
+        QCOMPARE(m_menu->userTabIndex(), 2);
+        press(Qt::Key_Up);
+        QCOMPARE(m_menu->userTabIndex(), 1);
+        QVERIFY(field(1)->hasActiveFocus());
+    }
+
+    void deletesATabOnceItIsSelected()
+    {
+        show();
+        m_menu->setUserTabName(1, QStringLiteral("tab"));
+        click(find(row(1), "deleteButton"));
+        QCOMPARE(m_menu->userTabIndex(), 1);
+        QCOMPARE(field(1)->property("text").toString(), QStringLiteral("tab"));
+        click(find(row(1), "deleteButton"));
+        QVERIFY(m_menu->userTabNames().at(1).isEmpty());
+        QVERIFY(field(1)->property("text").toString().isEmpty());
+        QCOMPARE(m_menu->userTabIndex(), 1);
+    }
+
+    void walksAllControlsByKey()
+    {
+        show({QStringLiteral("Gain"), QStringLiteral("Width")});
+        press(Qt::Key_X);
+        QString walked; // by the names that a screen reader tells
+        for (int i = 0; i < 12; ++i) {
+            press(Qt::Key_Tab);
+            auto *focused = QAccessible::queryAccessibleInterface(m_window->activeFocusItem());
+            walked += focused->text(QAccessible::Name) + QLatin1Char(',');
+        }
+        QCOMPARE(walked,
+                 QStringLiteral("Delete feature tab 1,Name of feature tab 2,Delete feature tab 2,"
+                                "Name of feature tab 3,Delete feature tab 3,Name of feature tab 4,"
+                                "Delete feature tab 4,Remove Gain,Remove Width,OK,Cancel,"
+                                "Name of feature tab 1,"));
+        QCOMPARE(m_menu->userTabNames().at(0), QStringLiteral("x"));
+        QCOMPARE(m_menu->userTabIndex(), 0);
+    }
+
+    void confirmsOrCancels_data()
+    {
+        QTest::addColumn<int>("userTabIndex");
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<bool>("confirms");
+        QTest::newRow("OK") << 3 << "addButton" << true;
+        QTest::newRow("OK without a tab") << -1 << "addButton" << false;
+        QTest::newRow("Cancel") << 3 << "cancelButton" << false;
+        QTest::newRow("Escape") << 0 << "" << false;
+    }
+
+    void confirmsOrCancels()
+    {
+        QFETCH(int, userTabIndex);
+        QFETCH(QString, button);
+        QFETCH(bool, confirms);
+        show();
+        m_menu->setUserTabIndex(userTabIndex);
+        const QMetaObject *type = m_menu->metaObject();
+        const QSignalSpy adds(m_menu, type->method(type->indexOfSignal("add()")));
+        const QSignalSpy cancels(m_menu, type->method(type->indexOfSignal("cancel()")));
+        if (userTabIndex >= 0) {
+            press(Qt::Key_A);
+        }
+        if (button.isEmpty()) {
+            press(Qt::Key_Escape);
+        } else {
+            click(m_menu->findChild<QQuickItem *>(button));
+        }
+        QCOMPARE(adds.size(), confirms ? 1 : 0);
+        QCOMPARE(cancels.size(), confirms ? 0 : 1);
+        m_menu->revertChanges();
+        QVERIFY(field(qMax(0, userTabIndex))->property("text").toString().isEmpty());
+    }
+
+    void showsTheFeaturesOfTheTab()
+    {
+        QQuickItem *view = find(m_menu, "scrollView");
+        show();
+        QVERIFY(!view->isVisible());
+        for (int i = 0; i < 60; ++i) {
+            m_menu->onAddFeature(0, QStringLiteral("Feature%1").arg(i));
+        }
+        QTRY_COMPARE(int(view->height()), int(m_menu->height()) / 8);
+        // By key the last one is reached, scrolled into view, and taken out.
+        for (int i = 0; i < 3; ++i) {
+            press(Qt::Key_Backtab);
+        }
+        QQuickItem *chip = find(view, "feature59");
+        QVERIFY(find(chip, "removeButton")->hasActiveFocus());
+        const QRectF seen = chip->mapRectToItem(view, chip->boundingRect());
+        QVERIFY(view->boundingRect().contains(seen));
+        press(Qt::Key_Space);
+        QCOMPARE(m_menu->featureNameList(0).size(), 59);
+        QVERIFY(find(find(view, "feature58"), "removeButton")->hasActiveFocus());
+        setFeatures({QStringLiteral("Gain")});
+        click(find(view, "removeButton"));
+        QVERIFY(m_menu->featureNameList(0).isEmpty());
+        QVERIFY(field(0)->hasActiveFocus());
+        QVERIFY(!view->isVisible());
+    }
+
+    void takesFeaturesFromOurTablesOnly_data()
+    {
+        QTest::addColumn<int>("userTabIndex");
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<bool>("taken");
+        QTest::newRow("our table") << 1 << "tesseraTableView" << true;
+        QTest::newRow("no tab") << -1 << "tesseraTableView" << false;
+        QTest::newRow("our tree") << 1 << "treeView" << false;
+        QTest::newRow("another application") << 1 << "" << false;
+    }
+
+    void takesFeaturesFromOurTablesOnly()
+    {
+        QFETCH(int, userTabIndex);
+        QFETCH(QString, source);
+        QFETCH(bool, taken);
+        show();
+        m_menu->setUserTabIndex(userTabIndex);
+        QQuickItem *area = find(m_menu, "dragAndDrop");
+        // An item of the scene can be dragged without a window system.
+        QQmlComponent component(m_window->engine());
+        component.setData("import QtQuick 2.15\n"
+                          "Item { Drag.active: x > 0; Drag.source: objectName ? this : null\n"
+                          "function drop() { Drag.drop() } }",
+                          {});
+        const std::unique_ptr<QQuickItem> dragged(qobject_cast<QQuickItem *>(component.create()));
+        dragged->setParentItem(m_menu);
+        dragged->setObjectName(source);
+        dragged->setPosition(area->mapToItem(m_menu, area->boundingRect().center()));
+        QTEST(area->property("containsDrag").toBool(), "taken");
+        QMetaObject::invokeMethod(dragged.get(), "drop");
+        QCOMPARE(m_menu->featureNameList(1).size(), taken ? 1 : 0);
+    }
+
+    void drawsTheIconsOfTheStyle()
+    {
+        CStandardIconProvider provider;
+        const QString known = QStringLiteral("SP_TitleBarCloseButton");
+        QSize size;
+        QVERIFY(!provider.requestPixmap(known, &size, {-1, -1}).isNull());
+        QVERIFY(!size.isEmpty());
+        const QString unknown = QStringLiteral("SP_DialogOkButton");
+        const QImage nothing = provider.requestPixmap(unknown, nullptr, {8, 4}).toImage();
+        QCOMPARE(nothing.size(), QSize(8, 4));
+        QCOMPARE(qAlpha(nothing.pixel(4, 2)), 0);
+    }
+
+private:
+    void show(const QStringList &features = {})
+    {
+        m_menu->selectFirstNamedTab();
+        setFeatures(features);
+        m_window->show();
+        m_window->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QTRY_VERIFY(row(3));
+    }
+
+    void setFeatures(const QStringList &features)
+    {
+        m_menu->setFeatureNameList(0, {});
+        for (const QString &feature : features) {
+            m_menu->onAddFeature(0, feature);
+        }
+    }
+
+    QQuickItem *row(int tab) const
+    {
+        return find(m_menu, qPrintable(QStringLiteral("editTabName%1").arg(tab)));
+    }
+
+    QQuickItem *field(int tab) const
+    {
+        return find(row(tab), "textField");
+    }
+
+    void click(QQuickItem *item)
+    {
+        const QPointF middle = item->mapToScene(item->boundingRect().center());
+        QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, middle.toPoint());
+    }
+
+    void press(Qt::Key key)
+    {
+        QTest::keyClick(m_window.get(), key);
+    }
+
+    Tests::WarningGuard m_guard;
+    std::unique_ptr<QQuickView> m_window;
+    CFeatureOptionsMenu *m_menu = nullptr; // owned by the window
+};
+
+QTEST_MAIN(tst_OptionsWindow)
+#include "tst_optionswindow.moc"
