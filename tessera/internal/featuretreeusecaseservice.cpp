@@ -6,6 +6,7 @@
 #include "plugin/constants/logcategories.h"
 #include "plugin/contract/core/languagehelper.h"
 #include "plugin/contract/core/logging.h"
+#include "plugin/services/pluginresources.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,12 +14,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMap>
-
-// Declares a function of its own, in the namespace that it stands in.
-static void initResources()
-{
-    Q_INIT_RESOURCE(tessera);
-}
 
 namespace Plugin::Tessera::Internal {
 
@@ -40,7 +35,7 @@ QMap<QString, QString> textsByLanguage(const QJsonArray &names)
         const QJsonObject name = entry.toObject();
         const QJsonValue text = name.value(QLatin1String("Text"));
         const QJsonValue code = name.value(QLatin1String("LanguageCode"));
-        if (text.isUndefined() || code.isUndefined()) {
+        if (!text.isString() || code.isUndefined()) {
             continue;
         }
         if (code.toString().isEmpty() || texts.contains(code.toString())) {

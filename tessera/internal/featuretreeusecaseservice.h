@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "plugin/services/ifeaturetreeusecaseservice.h"
+#include "plugin/contract/viewer/featuretreeusecaseservice.h"
 
 class QJsonObject;
 

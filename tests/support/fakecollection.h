@@ -29,6 +29,7 @@ struct FakeNode
     bool isWritable = true;
     bool isImplemented = true;
     bool isNull = false;
+    bool hasFilterTarget = false;
     double number = 0.0; ///< value of integers, floats and switches
     double minimum = 0.0;
     double maximum = 0.0; ///< no limits where it equals `minimum`
@@ -39,6 +40,7 @@ struct FakeNode
 
     Fault onWrite = Fault::None;
     Fault onProperty = Fault::None;
+    Fault onOverride = Fault::None; ///< setProperty
     Fault onType = Fault::None;
     Fault onRefresh = Fault::None;
 

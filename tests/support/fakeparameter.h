@@ -41,6 +41,7 @@ public:
     }
     void setProperty(const QString &key, const QString &value) override
     {
+        raise(m_node->onOverride);
         m_node->properties.insert(key, value);
     }
 
@@ -89,7 +90,7 @@ public:
     }
     bool hasFilterTarget() const override
     {
-        return false;
+        return m_node->hasFilterTarget;
     }
     GenApi::EVisibility visibility() const override
     {

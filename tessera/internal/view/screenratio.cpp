@@ -8,5 +8,6 @@
 
 double screenRatio()
 {
-    return QGuiApplication::primaryScreen()->logicalDotsPerInch() / 96.0;
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen ? screen->logicalDotsPerInch() / 96.0 : 1.0;
 }

@@ -19,6 +19,8 @@ QAction *addTrailingIcon(QLineEdit *edit, const QIcon &icon, int sevenths)
     canvas.fill(Qt::transparent);
     QRect place(QPoint(), size);
     place.moveCenter(QRect(QPoint(), size * sevenths / 7).center());
-    QPainter(&canvas).drawPixmap(place, source);
+    if (!canvas.isNull()) { // null: the style or the resources have no such icon
+        QPainter(&canvas).drawPixmap(place, source);
+    }
     return edit->addAction(QIcon(canvas), QLineEdit::TrailingPosition);
 }

@@ -3,6 +3,7 @@
 
 #include "usecaseedit.h"
 
+#include "lightpalette.h"
 #include "screenratio.h"
 #include "trailingicon.h"
 
@@ -36,7 +37,8 @@ CUseCaseEdit::CUseCaseEdit(QWidget *parent)
     }
     setReadOnly(true);
     setTextMargins(7, 0, 0, 0);
-    updateStyleSheet();
+    connect(qApp, &QGuiApplication::paletteChanged, this, &CUseCaseEdit::updateColours);
+    updateColours();
 }
 
 CUseCaseEdit::~CUseCaseEdit() = default;
@@ -50,27 +52,31 @@ void CUseCaseEdit::setText(const QString &text)
 void CUseCaseEdit::showText()
 {
     const int room = width() - static_cast<int>(screenRatio() * reservedWidth);
-    QLineEdit::setText(fontMetrics().elidedText(m_fullText, Qt::ElideRight, room));
+    const QString shown = fontMetrics().elidedText(m_fullText, Qt::ElideRight, room);
+    QLineEdit::setText(shown);
     setCursorPosition(0);
+    setToolTip(shown == m_fullText ? QString() : m_fullText);
 }
 
-void CUseCaseEdit::updateStyleSheet()
+// A child with a style sheet of its own does not take the palette of its parent.
+void CUseCaseEdit::updateColours()
 {
-    setStyleSheet(QStringLiteral("QLineEdit { border: 1px solid palette(mid); border-radius: 0px; "
-                                 "background-color: %1;}")
-                      .arg(QColor(255, 216, 147).name()));
+    setPalette(lightPalette());
+    setStyleSheet(QStringLiteral("QLineEdit { border: 1px solid %1; border-radius: 0px; "
+                                 "background-color: %2;}")
+                      .arg(lightStyleColour(QPalette::Mid, "mid"), QColor(255, 216, 147).name()));
 }
 
 void CUseCaseEdit::changeEvent(QEvent *event)
 {
     QLineEdit::changeEvent(event);
-    const int pixels = CStyleHelper::computePixelFontSize(12);
-    if (event->type() == QEvent::FontChange && font().pixelSize() != pixels) {
+    if (event->type() == QEvent::FontChange) {
         QFont lineFont = font();
-        lineFont.setPixelSize(pixels);
-        setFont(lineFont);
+        lineFont.setPixelSize(CStyleHelper::computePixelFontSize(12));
+        setFont(lineFont); // comes back here only where it changes something
+        showText();
     } else if (event->type() == QEvent::ApplicationPaletteChange) {
-        updateStyleSheet();
+        updateColours();
     }
 }
 

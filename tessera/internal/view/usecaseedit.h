@@ -31,7 +31,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void updateStyleSheet();
+    void updateColours();
     void showText();
 
     QAction *m_crossAction = nullptr; // by parent

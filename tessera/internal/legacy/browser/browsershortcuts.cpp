@@ -3,7 +3,6 @@
 
 #include "browsershortcuts.h"
 
-#include "browserwidgets.h"
 #include "featuretreewidget.h"
 #include "searchedit.h"
 

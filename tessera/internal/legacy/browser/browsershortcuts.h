@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "browserwidgets.h"
+
 #include <QObject>
 
 #include <functional>
@@ -10,7 +12,7 @@
 class FeatureTreeWidget;
 class QKeySequence;
 class QPushButton;
-struct BrowserWidgets;
+
 
 /// The keys of a browser that have no menu entry: F3 and Ctrl+F go to the search, with Ctrl, Alt
 /// and Shift the minus key closes and the plus key opens all categories, F5 refreshes.
@@ -40,5 +42,5 @@ private:
     const BrowserShortcuts &chosen() const;
 
     FeatureTreeWidget *m_browser = nullptr; // parent
-    const BrowserWidgets &m_widgets;
+    BrowserWidgets m_widgets; // the pointers: the browser drops its own before the widgets go
 };

@@ -7,6 +7,7 @@
 
 #include "internal/legacy/tree/featuretreeview.h"
 #include "internal/view/featuretableview.h"
+#include "internal/view/lightpalette.h"
 #include "internal/view/usecaseedit.h"
 #include "plugin/constants/objectnames.h"
 
@@ -25,27 +26,6 @@ using Plugin::Tessera::Internal::View::CFeatureTableView;
 using Plugin::Tessera::Internal::View::CUseCaseEdit;
 
 namespace {
-
-// The frame is white in every colour scheme of the desktop, and so are the colours that fit white.
-QPalette lightPalette()
-{
-    QPalette light(QColor(0xef, 0xef, 0xef));
-    const QPalette system = QApplication::palette();
-    for (const QPalette::ColorGroup group :
-         {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        const QColor text = group == QPalette::Disabled ? QColor(0x78, 0x78, 0x78) : Qt::black;
-        for (const QPalette::ColorRole role :
-             {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
-            light.setColor(group, role, text);
-        }
-        light.setColor(group, QPalette::Base, Qt::white);
-        light.setColor(group, QPalette::Window, Qt::white);
-        light.setColor(group, QPalette::Highlight, system.color(group, QPalette::Highlight));
-        light.setColor(group, QPalette::HighlightedText,
-                       system.color(group, QPalette::HighlightedText));
-    }
-    return light;
-}
 
 template<typename Widget> Widget *named(Widget *widget, const char *name)
 {

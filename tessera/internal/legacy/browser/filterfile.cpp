@@ -13,12 +13,18 @@
 #include <QCoreApplication>
 #include <QDomDocument>
 #include <QRegularExpression>
+#include <QXmlStreamReader>
 
 #include <utility>
 
 using ParameterCollection::IParameterCollection;
+using Plugin::Tessera::CaughtException;
+using Plugin::Tessera::runGuarded;
+using NodePtr = QSharedPointer<ParameterCollection::IParameterNode>;
 
 namespace {
+
+constexpr int maximumDepth = 256; // a rule needs three or four
 
 void logFault(const QString &text)
 {
@@ -46,14 +52,64 @@ QDomElement firstElement(const QDomElement &rule, const char *name)
     return rule.elementsByTagName(QLatin1String(name)).at(0).toElement();
 }
 
-void overrideProperty(ParameterCollection::IParameter &parameter, const QDomElement &rule,
+struct ParseProblem
+{
+    QString text;
+    int line = 0;
+    int column = 0;
+};
+
+// The document reads, walks and deletes its elements by recursion, to the end of the stack.
+bool isNestedTooDeeply(const QByteArray &xml, ParseProblem &problem)
+{
+    QXmlStreamReader reader(xml);
+    reader.setNamespaceProcessing(false);
+    for (int depth = 0; !reader.atEnd() && depth <= maximumDepth;) {
+        const QXmlStreamReader::TokenType token = reader.readNext();
+        depth += token == QXmlStreamReader::StartElement ? 1 : 0;
+        depth -= token == QXmlStreamReader::EndElement ? 1 : 0;
+        if (depth > maximumDepth) {
+            problem = {QStringLiteral("elements nested too deeply"),
+                       static_cast<int>(reader.lineNumber()),
+                       static_cast<int>(reader.columnNumber())};
+            return true;
+        }
+    }
+    return false;
+}
+
+bool parse(const QByteArray &xml, QDomDocument &document, ParseProblem &problem)
+{
+    return !isNestedTooDeeply(xml, problem)
+        && document.setContent(xml, &problem.text, &problem.line, &problem.column);
+}
+
+// Null without an entry where the device lacks it, which is no mistake of the file.
+NodePtr nodeToOverride(const QString &name, IParameterCollection &collection)
+{
+    NodePtr node;
+    runGuarded(
+        [&] {
+            const auto parameter = collection.parameter(name);
+            if (parameter && (!parameter->isNull() || parameter->hasFilterTarget())) {
+                node = parameter->node();
+            }
+        },
+        [&](const CaughtException &) {
+            logRule(
+                __LINE__,
+                QStringLiteral("could not retrieve \"%1\" from parameter collection").arg(name));
+        });
+    return node;
+}
+
+void overrideProperty(ParameterCollection::IParameterNode &node, const QDomElement &rule,
                       const char *property, int line, const QString &problem)
 {
     const QDomElement value = firstElement(rule, property);
     if (!value.isNull()) {
-        Plugin::Tessera::runGuarded(
-            [&] { parameter.node()->setProperty(QLatin1String(property), value.text()); },
-            [&](const Plugin::Tessera::CaughtException &) { logRule(line, problem); });
+        runGuarded([&] { node.setProperty(QLatin1String(property), value.text()); },
+                   [&](const CaughtException &) { logRule(line, problem); });
     }
 }
 
@@ -69,17 +125,12 @@ void applyRule(const QDomElement &rule, IParameterCollection &collection)
         logRule(__LINE__, QStringLiteral("empty name found"));
         return;
     }
-    QSharedPointer<ParameterCollection::IParameter> parameter;
-    Plugin::Tessera::runGuarded([&] { parameter = collection.parameter(name); });
-    // A device may lack it, which is no mistake of the file.
-    if (!parameter || !parameter->node()
-        || (parameter->isNull() && !parameter->hasFilterTarget())) {
-        return;
+    if (const NodePtr node = nodeToOverride(name, collection)) {
+        overrideProperty(*node, rule, "Visibility", __LINE__,
+                         QStringLiteral("failed to set visibility on node %1").arg(name));
+        overrideProperty(*node, rule, "AccessMode", __LINE__,
+                         QStringLiteral("failed to set access mode on node %1").arg(name));
     }
-    overrideProperty(*parameter, rule, "Visibility", __LINE__,
-                     QStringLiteral("failed to set visibility on node %1").arg(name));
-    overrideProperty(*parameter, rule, "AccessMode", __LINE__,
-                     QStringLiteral("failed to set access mode on node %1").arg(name));
 }
 
 } // namespace
@@ -129,13 +180,11 @@ bool FilterFile::apply(IParameterCollection &collection) const
         return false;
     }
     QDomDocument document;
-    QString problem;
-    int line = 0;
-    int column = 0;
-    if (!document.setContent(&file, &problem, &line, &column)) {
-        logFault(
-            QStringLiteral("Failed to parse file %1: %2 (%3, %4)")
-                .arg(file.fileName(), problem, QString::number(line), QString::number(column)));
+    ParseProblem problem;
+    if (!parse(file.readAll(), document, problem)) {
+        logFault(QStringLiteral("Failed to parse file %1: %2 (%3, %4)")
+                     .arg(file.fileName(), problem.text, QString::number(problem.line),
+                          QString::number(problem.column)));
         return false;
     }
     for (QDomElement rule = document.documentElement().firstChildElement(); !rule.isNull();

@@ -3,12 +3,15 @@
 
 #include "searchedit.h"
 
+#include "internal/view/lightpalette.h"
 #include "internal/view/screenratio.h"
 #include "internal/view/trailingicon.h"
 #include "plugin/contract/viewer/stylehelper.h"
+#include "plugin/services/pluginresources.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QInputMethodEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QStyle>
@@ -17,11 +20,20 @@ namespace {
 
 constexpr int iconWidth = 30; // pixels at the right, kept free of the help text
 
+// Complete, so that nothing of it is taken from the parent's font.
+QFont fontToPaint()
+{
+    QFont font = QApplication::font("QLineEdit");
+    font.resolve(~0U);
+    return font;
+}
+
 } // namespace
 
 SearchEdit::SearchEdit(QWidget *parent)
     : QLineEdit(parent)
 {
+    Plugin::Tessera::initResources();
     setFont(QApplication::font());
     connect(this, &QLineEdit::textChanged, this, &SearchEdit::onTextChanged);
     m_lensAction = addTrailingIcon(this, QIcon(QStringLiteral(":/tessera/icons/lens.svg")), 10);
@@ -34,7 +46,8 @@ SearchEdit::SearchEdit(QWidget *parent)
         m_clearAction->setVisible(false);
     }
     setTextMargins(7, 0, 0, 0);
-    updateStyleSheet();
+    connect(qApp, &QGuiApplication::paletteChanged, this, &SearchEdit::updateColours);
+    updateColours();
 }
 
 SearchEdit::~SearchEdit() = default;
@@ -50,17 +63,20 @@ void SearchEdit::onTextChanged(const QString &text)
     if (m_clearAction) {
         m_clearAction->setVisible(!text.isEmpty());
     }
-    updateStyleSheet();
+    updateColours();
     update();
 }
 
-void SearchEdit::updateStyleSheet()
+// A child with a style sheet of its own does not take the palette of its parent.
+void SearchEdit::updateColours()
 {
-    const QString frame =
-        QStringLiteral("QLineEdit { border: 1px solid palette(mid); border-radius: 0px; "
-                       "background-color: %1}");
-    setStyleSheet(text().isEmpty() ? frame.arg(QStringLiteral("palette(button);"))
-                                   : frame.arg(QColor(255, 167, 0).name() + QLatin1String("; ")));
+    setPalette(lightPalette());
+    const QString frame = QStringLiteral("QLineEdit { border: 1px solid %1; border-radius: 0px; "
+                                         "background-color: %2}")
+                              .arg(lightStyleColour(QPalette::Mid, "mid"));
+    setStyleSheet(text().isEmpty()
+                      ? frame.arg(lightStyleColour(QPalette::Button, "button") + QLatin1Char(';'))
+                      : frame.arg(QColor(255, 167, 0).name() + QLatin1String("; ")));
 }
 
 void SearchEdit::changeEvent(QEvent *event)
@@ -75,20 +91,26 @@ void SearchEdit::changeEvent(QEvent *event)
             setFont(lineFont);
         }
     } else if (event->type() == QEvent::ApplicationPaletteChange) {
-        updateStyleSheet();
+        updateColours();
     }
+}
+
+void SearchEdit::inputMethodEvent(QInputMethodEvent *event)
+{
+    m_isComposing = !event->preeditString().isEmpty();
+    QLineEdit::inputMethodEvent(event);
 }
 
 void SearchEdit::paintEvent(QPaintEvent *event)
 {
     const QScopedValueRollback<bool> painting(m_isPainting, true);
-    const QFont painted = QApplication::font("QLineEdit");
+    const QFont painted = fontToPaint();
     if (m_paintedFont != painted) {
         m_paintedFont = painted;
         setFont(painted);
     }
     QLineEdit::paintEvent(event);
-    if (!m_helpText.isEmpty() && !(m_clearAction && m_clearAction->isVisible())) {
+    if (!m_helpText.isEmpty() && !m_isComposing && !(m_clearAction && m_clearAction->isVisible())) {
         paintHelpText();
     }
 }

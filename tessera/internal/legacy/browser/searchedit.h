@@ -25,18 +25,20 @@ public:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private Q_SLOTS:
     void onTextChanged(const QString &text);
 
 private: // NOLINT(readability-redundant-access-specifiers): ends the slots
-    void updateStyleSheet();
+    void updateColours();
     void paintHelpText();
 
     QString m_helpText;
     QAction *m_lensAction = nullptr; // by parent
     QAction *m_clearAction = nullptr; // by parent
     std::optional<QFont> m_paintedFont; // set by painting and by nobody since
+    bool m_isComposing = false; // an input method shows text that is not in the line yet
     bool m_isPainting = false; // a change of font is our own
 };

@@ -10,13 +10,14 @@
 namespace Plugin::Tessera {
 
 /// Offers use cases: lists of parameters, each of which answers a task of the user.
-class IFeatureTreeUseCaseService : public Core::Service::IService
+class VANTREL_HOST_EXPORT IFeatureTreeUseCaseService : public Core::Service::IService
 {
     Q_OBJECT
     Q_PROPERTY(QVariantMap useCaseMap READ useCaseMap NOTIFY useCaseMapChanged)
 
 public:
-    using Core::Service::IService::IService;
+    explicit IFeatureTreeUseCaseService(QObject *parent);
+    ~IFeatureTreeUseCaseService() override;
 
     /// Reads the catalogue. False when a file could not be read or is no JSON.
     virtual bool load() = 0;

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 Tessera contributors
+// SPDX-License-Identifier: MIT
+
+#include "lightpalette.h"
+
+#include <QApplication>
+
+QPalette lightPalette()
+{
+    QPalette light(QColor(0xef, 0xef, 0xef));
+    const QPalette system = QApplication::palette();
+    for (const QPalette::ColorGroup group :
+         {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        const QColor text = group == QPalette::Disabled ? QColor(0x78, 0x78, 0x78) : Qt::black;
+        for (const QPalette::ColorRole role :
+             {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+            light.setColor(group, role, text);
+        }
+        light.setColor(group, QPalette::Base, Qt::white);
+        light.setColor(group, QPalette::Window, Qt::white);
+        light.setColor(group, QPalette::Highlight, system.color(group, QPalette::Highlight));
+        light.setColor(group, QPalette::HighlightedText,
+                       system.color(group, QPalette::HighlightedText));
+    }
+    return light;
+}
+
+QString lightStyleColour(QPalette::ColorRole role, const char *name)
+{
+    const bool isDark = QApplication::palette().color(QPalette::Button).lightness() < 128;
+    return isDark ? lightPalette().color(role).name()
+                  : QStringLiteral("palette(%1)").arg(QLatin1String(name));
+}
