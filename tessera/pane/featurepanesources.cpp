@@ -13,8 +13,8 @@
 #include "plugin/contract/appcore/menuservice.h"
 #include "plugin/contract/core/logging.h"
 #include "plugin/contract/parametercollection/parametercollection.h"
+#include "plugin/contract/viewer/featuretreeusecaseservice.h"
 #include "plugin/contract/viewer/parameterservice.h"
-#include "plugin/services/ifeaturetreeusecaseservice.h"
 
 #include <QAction>
 #include <QDrag>
