@@ -4,19 +4,22 @@
 // Helpers of one test need no meta object.
 // clazy:excludeall=missing-qobject-macro
 
+#include "plugin/contract/appcore/actioncommand.h"
+#include "plugin/contract/appcore/actioncontainer.h"
+#include "plugin/contract/appcore/menuservice.h"
 #include "plugin/contract/appcore/windowservice.h"
 #include "plugin/contract/core/localizedplugin.h"
+#include "plugin/contract/core/plugininfoservice.h"
 #include "plugin/contract/viewer/featuretreecontrolservice.h"
 #include "plugin/contract/viewer/featuretreestatusservice.h"
 #include "plugin/services/servicelookup.h"
 #include "support/fakefault.h"
 #include "support/warningguard.h"
 
-#include "host/framework/menuservice.h"
 #include "host/framework/parameterpool.h"
-#include "host/framework/plugincatalogue.h"
 #include "host/framework/serviceregistry.h"
 
+#include <QAction>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QLabel>
@@ -26,6 +29,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <string>
@@ -40,69 +44,167 @@ using Tests::Fault;
 namespace {
 
 const QString category = QStringLiteral("vantrel.viewer.plugins.tessera");
-const QString allPane = QStringLiteral("Tessera.Widget.All");
+const QStringList paneNames {QStringLiteral("All"),   QStringLiteral("Basic"),
+                             QStringLiteral("User0"), QStringLiteral("User1"),
+                             QStringLiteral("User2"), QStringLiteral("User3")};
 const QString missingService = QStringLiteral(
     "At least one service necessary for initializing the Tessera plugin is missing.");
 
-class ThrowingMenuService final : public Plugin::AppCore::IMenuService
+/// Throws at one call of the host, counted over all its services.
+struct Trap
+{
+    void step(const char *call)
+    {
+        if (name == QLatin1String(call) && --countdown == 0) {
+            Tests::raise(fault);
+        }
+    }
+    QString name;
+    int countdown = 0;
+    Fault fault = Fault::None;
+};
+
+class Command final : public Plugin::AppCore::IActionCommand
 {
 public:
-    ThrowingMenuService()
-        : IMenuService(nullptr)
+    explicit Command(Trap *trap)
+        : m_trap(trap)
     {
     }
-    Plugin::AppCore::IActionCommand *registerAction(
-        QAction * /*action*/, const CId & /*id*/,
-        const Core::AppCoreComponents::CContext & /*context*/) override
+    void setAttribute(int /*attribute*/) override
     {
-        Tests::raise(Fault::Host);
+        m_trap->step("setAttribute");
+    }
+
+private:
+    Trap *m_trap; // borrowed
+};
+
+class Container final : public Plugin::AppCore::IActionContainer
+{
+public:
+    explicit Container(Trap *trap)
+        : m_trap(trap)
+    {
+    }
+    QMenu *menu() const override
+    {
         return nullptr;
     }
-    void unregisterAction(QAction * /*action*/, const CId & /*id*/) override
+    void addAction(Plugin::AppCore::IActionCommand * /*command*/, const CId & /*group*/) override
     {
+        m_trap->step("addAction");
+    }
+
+private:
+    Trap *m_trap; // borrowed
+};
+
+class Menus final : public Plugin::AppCore::IMenuService
+{
+public:
+    explicit Menus(Trap *trap)
+        : IMenuService(nullptr)
+        , m_trap(trap)
+        , m_command(trap)
+        , m_container(trap)
+    {
+    }
+    ~Menus() override
+    {
+        for (const QPointer<QAction> &action : qAsConst(actions)) {
+            delete action;
+        }
+    }
+    Plugin::AppCore::IActionCommand *registerAction(
+        QAction *action, const CId & /*id*/,
+        const Core::AppCoreComponents::CContext & /*context*/) override
+    {
+        m_trap->step("registerAction");
+        actions.append(action);
+        return &m_command;
+    }
+    void unregisterAction(QAction * /*action*/, const CId &id) override
+    {
+        unregistered.append(id.toString());
+        m_trap->step("unregisterAction");
     }
     Plugin::AppCore::IActionContainer *actionContainer(const CId & /*id*/) const override
     {
-        return nullptr;
+        m_trap->step("actionContainer");
+        return &m_container;
     }
+    QStringList unregistered;
+    QVector<QPointer<QAction>> actions;
+
+private:
+    Trap *m_trap; // borrowed
+    Command m_command;
+    mutable Container m_container;
 };
 
-class WindowService final : public Plugin::AppCore::IWindowService
+class Windows final : public Plugin::AppCore::IWindowService
 {
 public:
-    WindowService()
+    explicit Windows(Trap *trap)
         : IWindowService(nullptr)
+        , m_trap(trap)
     {
     }
     bool isDockWidgetClosed(const CId & /*id*/) const override
     {
+        m_trap->step("isDockWidgetClosed");
         return false;
     }
     void setDockWidgetVisible(const CId & /*id*/, bool /*visible*/) override
     {
+        m_trap->step("setDockWidgetVisible");
     }
     void setDockWidgetTitle(const CId & /*id*/, const QString & /*title*/) override
     {
+        m_trap->step("setDockWidgetTitle");
     }
     void addDockWidget(const CId &id, QWidget *widget, int area, bool visible, bool flag) override
     {
-        Tests::raise(onAdd);
-        pane = widget;
         calls.append(QStringLiteral("add %1 \"%2\" %3 %4 %5")
                          .arg(id.toString(), widget->windowTitle())
                          .arg(area)
                          .arg(visible)
                          .arg(flag));
+        m_trap->step("addDockWidget");
+        panes.insert(id.toString(), widget);
+        widget->show();
     }
     void removeDockWidget(const CId &id) override
     {
         calls.append(QStringLiteral("remove ") + id.toString());
-        Tests::raise(onRemove);
+        m_trap->step("removeDockWidget");
+        panes.value(id.toString())->hide();
     }
-    Fault onAdd = Fault::None;
-    Fault onRemove = Fault::None;
     QStringList calls;
-    QPointer<QWidget> pane;
+    QMap<QString, QPointer<QWidget>> panes;
+
+private:
+    Trap *m_trap; // borrowed
+};
+
+class Plugins final : public Core::Plugin::IPluginInfoService
+{
+public:
+    explicit Plugins(Trap *trap)
+        : IPluginInfoService(nullptr)
+        , m_trap(trap)
+    {
+    }
+    bool isPluginAvailable(const QString &name) const override
+    {
+        m_trap->step("isPluginAvailable");
+        return isWorkbenchOffered && name == QLatin1String("Workbench");
+    }
+    bool isWorkbenchOffered = true;
+
+private:
+    Trap *m_trap; // borrowed
 };
 
 } // namespace
@@ -123,10 +225,12 @@ private Q_SLOTS:
     void init()
     {
         m_guard.begin();
+        QSettings().clear();
+        m_trap = {};
         m_registry.reset(new Host::ServiceRegistry);
-        m_catalogue.reset(new Host::PluginCatalogue);
-        m_menu.reset(new Host::MenuService(nullptr));
-        m_window.reset(new WindowService);
+        m_plugins.reset(new Plugins(&m_trap));
+        m_menus.reset(new Menus(&m_trap));
+        m_windows.reset(new Windows(&m_trap));
         m_plugin.reset(qobject_cast<Core::Plugin::IPlugin *>(m_loader.instance()));
     }
 
@@ -136,6 +240,7 @@ private Q_SLOTS:
             m_plugin->uninitialize(m_registry);
             m_plugin.reset();
         }
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         m_guard.verify();
     }
 
@@ -165,25 +270,40 @@ private Q_SLOTS:
                                 "ParameterCollectionPool "));
     }
 
-    void docksAndTakesAwayThePane()
+    void docksAndTakesAwayThePanes()
     {
-        const QString added =
-            QStringLiteral("add Tessera.Widget.All \"Features \u2013 All\" 3 1 0");
+        QSettings().setValue(QStringLiteral("Tessera/UserTabName1"), QStringLiteral("R&D, x"));
+        const QStringList added {
+            QStringLiteral("add Tessera.Widget.All \"Features \u2013 All\" 3 1 0"),
+            QStringLiteral("add Tessera.Widget.Basic \"Features \u2013 Basic\" 3 1 0"),
+            QStringLiteral("add Tessera.Widget.User0 \"Features \u2013 \" 3 0 0"),
+            QStringLiteral("add Tessera.Widget.User1 \"Features \u2013 R&&D, x\" 3 0 0"),
+            QStringLiteral("add Tessera.Widget.User2 \"Features \u2013 \" 3 0 0"),
+            QStringLiteral("add Tessera.Widget.User3 \"Features \u2013 \" 3 0 0")};
+        QStringList removed;
+        QStringList unregistered;
+        for (const QString &name : paneNames) {
+            removed.append(QStringLiteral("remove Tessera.Widget.") + name);
+            unregistered.append(QStringLiteral("Tessera.Widget.%1.menuItem").arg(name));
+        }
         QVERIFY(dynamic_cast<Core::Plugin::ALocalizedPlugin *>(m_plugin.get()));
         QVERIFY(initialize());
         QVERIFY(m_plugin->start());
-        QCOMPARE(m_window->calls, QStringList(added));
+        Q_EMIT qGuiApp->focusWindowChanged(nullptr);
+        QCOMPARE(m_windows->calls, added);
         QVERIFY(m_registry->lock()->tryLockForWrite());
         m_registry->lock()->unlock();
         QVERIFY(m_plugin->uninitialize(m_registry));
-        QVERIFY(!m_window->pane);
-        QCOMPARE(m_window->calls, (QStringList {added, QStringLiteral("remove ") + allPane}));
+        QVERIFY(arePanesGone());
+        QCOMPARE(m_windows->calls, added + removed);
+        QCOMPARE(m_menus->unregistered, unregistered);
 
         // A pane that the host deleted is not touched again.
+        m_windows->calls.clear();
         QVERIFY(m_plugin->initialize(m_registry));
-        delete m_window->pane;
+        delete m_windows->panes.value(QStringLiteral("Tessera.Widget.Basic"));
         QVERIFY(m_plugin->uninitialize(m_registry));
-        QCOMPARE(m_window->calls.size(), 3);
+        QCOMPARE(m_windows->calls.size(), 11);
     }
 
     void needsItsServices_data()
@@ -201,16 +321,19 @@ private Q_SLOTS:
 
     void needsItsServices()
     {
-        QFETCH(bool, isWorkbenchOffered);
         QFETCH(bool, starts);
-        m_catalogue->setWorkbenchOffered(isWorkbenchOffered);
+        QFETCH(bool, isWorkbenchOffered);
+        QFETCH(bool, namesTheWorkbench);
+        m_plugins->isWorkbenchOffered = isWorkbenchOffered;
         if (!starts) {
             m_guard.expectLogEntry(ELogLevel::Failure, category, missingService);
         }
         QCOMPARE(initialize(QTest::currentDataTag()), starts);
-        QCOMPARE(!m_window->pane.isNull(), starts);
-        const auto *hint = starts ? m_window->pane->findChild<QLabel *>() : nullptr;
-        QTEST(hint && hint->text().contains(QLatin1String("Workbench")), "namesTheWorkbench");
+        QCOMPARE(m_windows->panes.size(), starts ? paneNames.size() : 0);
+        for (QWidget *pane : qAsConst(m_windows->panes)) {
+            QCOMPARE(pane->findChild<QLabel *>()->text().contains(QLatin1String("Workbench")),
+                     namesTheWorkbench);
+        }
         m_plugin->uninitialize({});
 
         m_guard.expectLogEntry(ELogLevel::Failure, category, missingService);
@@ -219,45 +342,60 @@ private Q_SLOTS:
 
     void survivesAHostThatThrows_data()
     {
-        QTest::addColumn<Tests::Fault>("onAdd");
-        QTest::addColumn<Tests::Fault>("onRemove");
-        QTest::addColumn<QString>("text");
-        const QString ofGenICam =
-            QStringLiteral("GenICam Exception caught while %1. Message: fault");
-        const QString known = QStringLiteral("Exception caught while %1. Message: fault");
-        const QString unknown = QStringLiteral("Unknown exception caught while %1.");
-        QTest::newRow("menu") << Fault::None << Fault::None << known;
-        const QMap<Fault, QString> texts {{Fault::GenICam, ofGenICam},
-                                          {Fault::Standard, known},
-                                          {Fault::Host, known},
-                                          {Fault::Unknown, unknown}};
-        for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
-            QTest::addRow("adding %d", int(text.key()))
-                << text.key() << Fault::None << text.value();
-            QTest::addRow("removing %d", int(text.key()))
-                << Fault::None << text.key() << text.value();
+        QTest::addColumn<QString>("call");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<bool>("isAtTheEnd");
+        QTest::addColumn<QString>("doing");
+        const QString adding = QStringLiteral("adding Tessera to DockWidget");
+        const auto row = [](const char *call, int count, bool isAtTheEnd, const QString &doing) {
+            QTest::addRow("%s %d", call, count)
+                << QString::fromLatin1(call) << count << isAtTheEnd << doing;
+        };
+        for (const char *call :
+             {"isPluginAvailable", "registerAction", "actionContainer", "addAction", "setAttribute",
+              "setDockWidgetTitle", "setDockWidgetVisible", "addDockWidget"}) {
+            row(call, 1, false, adding);
+        }
+        for (const char *call : {"registerAction", "addAction", "addDockWidget"}) {
+            row(call, 2, false, adding); // while another pane is there
+        }
+        row("registerAction", 10, false, adding); // menu entry of the last pane
+        row("addDockWidget", 6, false, adding);
+        row("isDockWidgetClosed", 1, false, QString());
+        for (int pane = 1; pane <= paneNames.size(); ++pane) {
+            const QString settings =
+                QStringLiteral(" FeatureTreeWidget%1Settings")
+                    .arg(QString(paneNames.at(pane - 1))
+                             .remove(QRegularExpression(QStringLiteral("\\d"))));
+            row("removeDockWidget", pane, true, QStringLiteral("removing") + settings);
+            row("unregisterAction", pane, true, QStringLiteral("deleting") + settings);
         }
     }
 
     void survivesAHostThatThrows()
     {
-        QFETCH(Tests::Fault, onAdd);
-        QFETCH(Tests::Fault, onRemove);
-        QFETCH(QString, text);
-        const bool starts = onRemove != Fault::None;
-        if (!starts && onAdd == Fault::None) {
-            m_menu.reset(new ThrowingMenuService);
-        }
-        m_window->onAdd = onAdd;
-        m_window->onRemove = onRemove;
+        QFETCH(QString, call);
+        QFETCH(int, count);
+        QFETCH(bool, isAtTheEnd);
+        QFETCH(QString, doing);
+        QSettings().setValue(QStringLiteral("Tessera/UserTabFeatureVisible2"), true);
+        QSettings().setValue(QStringLiteral("Tessera/UserTabFeatureAvailable2"), true);
         const int widgets = QApplication::allWidgets().size();
-        m_guard.expectLogEntry(
-            ELogLevel::Failure, category,
-            text.arg(starts ? QStringLiteral("removing FeatureTreeWidgetAllSettings")
-                            : QStringLiteral("adding Tessera to DockWidget")));
-        QCOMPARE(initialize(), starts);
-        QVERIFY(m_plugin->uninitialize(m_registry));
-        QCOMPARE(QApplication::allWidgets().size(), widgets);
+        const bool starts = isAtTheEnd || doing.isEmpty();
+        for (const Fault fault : {Fault::GenICam, Fault::Standard, Fault::Host, Fault::Unknown}) {
+            if (!doing.isEmpty()) {
+                m_guard.expectLogEntry(ELogLevel::Failure, category, entryText(fault).arg(doing));
+            }
+            const Trap trap {call, count, fault};
+            m_trap = isAtTheEnd ? Trap() : trap;
+            QCOMPARE(initialize(), starts);
+            QVERIFY(starts || arePanesGone());
+            m_trap = isAtTheEnd ? trap : Trap();
+            QVERIFY(m_plugin->uninitialize(m_registry));
+            QVERIFY(m_trap.countdown <= 0 || !isAtTheEnd);
+            QCOMPARE(QApplication::allWidgets().size(), widgets);
+            QVERIFY(QSettings().contains(QStringLiteral("Tessera/UserTabName3")) || !starts);
+        }
     }
 
     void tellsTheStatusOfItsPane()
@@ -272,7 +410,7 @@ private Q_SLOTS:
                 [&] { told.append(QStringLiteral("current")); });
         connect(status.data(), &IFeatureTreeStatusService::newText, this,
                 [&](const QString &text) { told.append(text); });
-        QObject *pane = m_window->pane;
+        QObject *pane = m_windows->panes.first();
         QVERIFY(QMetaObject::invokeMethod(pane, "visibilityChanged",
                                           Q_ARG(GenApi::EVisibility, GenApi::Expert)));
         QVERIFY(QMetaObject::invokeMethod(
@@ -299,10 +437,11 @@ private:
     // With all services but one.
     bool initialize(const char *missing = "")
     {
+        m_registry->clear();
         const std::map<std::string, QSharedPointer<Core::Service::IService>> services {
-            {"catalogue", m_catalogue},
-            {"menu", m_menu},
-            {"window", m_window},
+            {"catalogue", m_plugins},
+            {"menu", m_menus},
+            {"window", m_windows},
             {"parameter", QSharedPointer<Host::ParameterPool>::create()},
         };
         for (const auto &[name, service] : services) {
@@ -313,12 +452,31 @@ private:
         return m_plugin->initialize(m_registry);
     }
 
+    bool arePanesGone() const
+    {
+        return std::none_of(m_windows->panes.cbegin(), m_windows->panes.cend(),
+                            [](const QPointer<QWidget> &pane) { return pane; });
+    }
+
+    static QString entryText(Fault fault)
+    {
+        switch (fault) {
+        case Fault::GenICam:
+            return QStringLiteral("GenICam Exception caught while %1. Message: fault");
+        case Fault::Unknown:
+            return QStringLiteral("Unknown exception caught while %1.");
+        default:
+            return QStringLiteral("Exception caught while %1. Message: fault");
+        }
+    }
+
     QTemporaryDir m_settings;
     QPluginLoader m_loader {QStringLiteral(TESSERA_PLUGIN_FILE)};
+    Trap m_trap;
     QSharedPointer<Host::ServiceRegistry> m_registry;
-    QSharedPointer<Host::PluginCatalogue> m_catalogue;
-    QSharedPointer<Plugin::AppCore::IMenuService> m_menu;
-    QSharedPointer<WindowService> m_window;
+    QSharedPointer<Plugins> m_plugins;
+    QSharedPointer<Menus> m_menus;
+    QSharedPointer<Windows> m_windows;
     std::unique_ptr<Core::Plugin::IPlugin> m_plugin;
     Tests::WarningGuard m_guard;
 };
