@@ -44,6 +44,7 @@ private Q_SLOTS:
     void searchInForceIsOrangeUntilTheCrossOrTheLastKey()
     {
         const QImage empty = picture(m_search);
+        QVERIFY(!m_search->actions().at(0)->icon().isNull());
         QTest::keyClicks(m_search, QStringLiteral("g"));
         QCOMPARE(background(m_search), QColor(255, 167, 0));
         QVERIFY(!m_search->actions().at(0)->isVisible() && m_search->actions().at(1)->isVisible());
@@ -215,7 +216,7 @@ private:
     {
         const bool wasReadOnly = edit->isReadOnly();
         edit->setReadOnly(true); // no blinking cursor
-        const QImage image = edit->grab().toImage();
+        QImage image = edit->grab().toImage();
         edit->setReadOnly(wasReadOnly);
         return image;
     }
