@@ -4,11 +4,10 @@
 #include "treeviewheaderstyle.h"
 
 #include "internal/view/featuretableview.h"
+#include "internal/view/screenratio.h"
 #include "internal/view/treeviewheaderview.h"
 
-#include <QGuiApplication>
 #include <QPainter>
-#include <QScreen>
 #include <QStyleOptionHeader>
 
 namespace Plugin::Tessera::Internal::Style {
@@ -37,12 +36,6 @@ CTreeViewHeaderStyle::CTreeViewHeaderStyle() = default;
 
 CTreeViewHeaderStyle::~CTreeViewHeaderStyle() = default;
 
-double CTreeViewHeaderStyle::ratio()
-{
-    const QScreen *screen = QGuiApplication::primaryScreen();
-    return screen ? screen->logicalDotsPerInch() / 96.0 : 1.0;
-}
-
 void CTreeViewHeaderStyle::drawControl(ControlElement element, const QStyleOption *option,
                                        QPainter *painter, const QWidget *widget) const
 {
@@ -61,7 +54,7 @@ void CTreeViewHeaderStyle::drawSection(const QStyleOption &option, QPainter &pai
 {
     const auto *header = qstyleoption_cast<const QStyleOptionHeader *>(&option);
     const QRect &rect = option.rect;
-    const int y = headerHeight(option, widget) - static_cast<int>(7.0 / ratio());
+    const int y = headerHeight(option, widget) - static_cast<int>(7.0 / screenRatio());
     painter.save();
     painter.fillRect(rect, option.palette.base());
     painter.setPen(option.palette.midlight().color());
@@ -78,7 +71,7 @@ void CTreeViewHeaderStyle::drawTitle(const QStyleOptionHeader &option, QPainter 
                                      const QWidget *widget) const
 {
     const QRect &rect = option.rect;
-    const int scaledWidth = static_cast<int>(rect.width() / ratio());
+    const int scaledWidth = static_cast<int>(rect.width() / screenRatio());
     const bool indented = isIndented(option, widget);
     const int margin = proxy()->pixelMetric(PM_HeaderMargin, &option, widget);
     const int shift = indented ? 7 : -margin;

@@ -19,9 +19,6 @@ public:
     CTreeViewHeaderStyle();
     ~CTreeViewHeaderStyle() override;
 
-    /// The logical resolution of the primary screen in units of 96 dpi; 1 without a screen.
-    static double ratio();
-
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget = nullptr) const override;
 

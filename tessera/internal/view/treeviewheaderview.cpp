@@ -3,9 +3,12 @@
 
 #include "treeviewheaderview.h"
 
+#include "screenratio.h"
+
 #include "internal/style/treeviewheaderstyle.h"
 #include "plugin/contract/viewer/stylehelper.h"
 
+#include <QCoreApplication>
 #include <QFontMetrics>
 
 namespace Plugin::Tessera::Internal::View {
@@ -23,6 +26,7 @@ CTreeViewHeaderView::CTreeViewHeaderView(QWidget *parent)
 CTreeViewHeaderView::~CTreeViewHeaderView()
 {
     setStyle(nullptr);
+    m_style->setParent(QCoreApplication::instance()); // where no event loop runs any more
     m_style->deleteLater();
 }
 
@@ -38,8 +42,7 @@ QFont CTreeViewHeaderView::titleFont() const
 QSize CTreeViewHeaderView::sizeHint() const
 {
     QSize size = QHeaderView::sizeHint();
-    size.setHeight(QFontMetrics(titleFont()).height()
-                   + static_cast<int>(Style::CTreeViewHeaderStyle::ratio() * 13.0));
+    size.setHeight(QFontMetrics(titleFont()).height() + static_cast<int>(screenRatio() * 13.0));
     return size;
 }
 
