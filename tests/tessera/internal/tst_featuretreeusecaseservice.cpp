@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Tessera contributors
 // SPDX-License-Identifier: MIT
 
+// clazy:excludeall=range-loop-detach,detaching-temporary
+
 #include "plugin/contract/core/languagehelper.h"
 
 #include "internal/featuretreeusecaseservice.h"
