@@ -4,6 +4,7 @@
 #include "panecommands.h"
 
 #include <QAbstractItemView>
+#include <QAbstractProxyModel>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDockWidget>
@@ -40,6 +41,31 @@ QModelIndex findPath(const QAbstractItemModel &model, const QString &fullName,
     return QModelIndex();
 }
 
+// What the tree shows of the path: its own row or, where the tree leaves it out, the row that it
+// stands below.
+QModelIndex findInTree(const QAbstractItemModel &shown, const QString &fullName)
+{
+    const auto *filter = qobject_cast<const QAbstractProxyModel *>(&shown);
+    if (!filter) {
+        return findPath(shown, fullName);
+    }
+    QModelIndex index = findPath(*filter->sourceModel(), fullName);
+    while (index.isValid() && !filter->mapFromSource(index).isValid()) {
+        index = index.parent();
+    }
+    return filter->mapFromSource(index);
+}
+
+bool makeCurrent(QAbstractItemView *view, const QModelIndex &index)
+{
+    if (!view || !index.isValid()) {
+        return false;
+    }
+    view->setCurrentIndex(index);
+    view->scrollTo(index);
+    return true;
+}
+
 } // namespace
 
 PaneError::PaneError(const QString &message)
@@ -67,12 +93,16 @@ void PaneCommands::showPane(const QString &name)
 void PaneCommands::select(const QString &fullName)
 {
     auto *tree = qobject_cast<QAbstractItemView *>(widget("treeView"));
-    const QModelIndex index = tree ? findPath(*tree->model(), fullName) : QModelIndex();
-    if (!index.isValid()) {
+    auto *table = qobject_cast<QAbstractItemView *>(widget("tesseraTableView"));
+    const QModelIndex category = tree ? findInTree(*tree->model(), fullName) : QModelIndex();
+    bool isShown = makeCurrent(tree, category) && category.data(fullNameRole) == fullName;
+    // The table lists the features of the category that is now current.
+    if (!isShown && table) {
+        isShown = makeCurrent(table, findPath(*table->model(), fullName));
+    }
+    if (!isShown) {
         throw PaneError(Text::tr("the pane %1 shows no \"%2\"").arg(m_pane, fullName));
     }
-    tree->setCurrentIndex(index);
-    tree->scrollTo(index);
 }
 
 void PaneCommands::search(const QString &text)

@@ -3,62 +3,41 @@
 
 #include "featurepane.h"
 
-#include "parametertrees.h"
-
 #include "internal/legacy/browser/featuretreewidget.h"
-#include "internal/legacy/tree/featuretreeinodeitem.h"
+#include "internal/view/optionswindow.h"
 #include "plugin/constants/ids.h"
-#include "plugin/constants/logcategories.h"
+#include "plugin/contract/appcore/actioncommand.h"
 #include "plugin/contract/appcore/actioncontainer.h"
 #include "plugin/contract/appcore/menuservice.h"
-#include "plugin/contract/core/logging.h"
+#include "plugin/contract/appcore/windowservice.h"
 #include "plugin/contract/parametercollection/parametercollection.h"
-#include "plugin/contract/viewer/parameterservice.h"
+#include "plugin/services/exceptionbarrier.h"
 #include "plugin/services/featuretreecontrolservice.h"
 
 #include <QAction>
 #include <QLabel>
-#include <QPointer>
+#include <QScreen>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <memory>
 #include <utility>
 
-using ParameterCollection::IParameter;
-using ParameterCollection::IParameterCollection;
-
 namespace Plugin::Tessera {
-
-namespace {
-
-void logFault(const QString &text)
-{
-    static const quint64 category = Core::Logging::getCatId(LogCategories::Pane);
-    Core::Logging::createLogEntry(Core::Logging::ELogLevel::Fault, category, text);
-}
-
-void logMissingInfo()
-{
-    logFault(QStringLiteral("Info is null."));
-}
-
-void logMissingCollection()
-{
-    logFault(QStringLiteral("ParameterCollection is null."));
-}
-
-} // namespace
 
 CFeatureTreeWidget::CFeatureTreeWidget(
     QSharedPointer<Plugin::AppCore::IMenuService> menuService,
     QSharedPointer<Plugin::FeatureTree::IFeatureTreeControlService> controlService,
     QSharedPointer<Plugin::ParameterCollectionPool::IParameterService> parameterService,
-    const Core::CId &id, bool hasWorkbench)
+    QSharedPointer<Plugin::Tessera::IFeatureTreeUseCaseService> useCaseService,
+    QSharedPointer<Plugin::AppCore::IWindowService> windowService, const Core::CId &id,
+    QQuickView *optionsWindow, bool hasWorkbench)
     : m_menuService(std::move(menuService))
     , m_parameterService(std::move(parameterService))
     , m_controlService(std::move(controlService))
+    , m_useCaseService(std::move(useCaseService))
+    , m_windowService(std::move(windowService))
     , m_id(id)
+    , m_optionsWindow(optionsWindow)
 {
     setMinimumWidth(350);
     setMinimumHeight(350);
@@ -66,17 +45,37 @@ CFeatureTreeWidget::CFeatureTreeWidget(
     createHint(hasWorkbench);
     connectControlService();
     registerCopyAction();
+    m_settings = loadPaneSettings(m_id);
+    if (isUserPane()) {
+        createMenuAction();
+    }
 }
 
-// Children that are deleted after this must not reach into it any more.
 CFeatureTreeWidget::~CFeatureTreeWidget()
 {
+    // Children that are deleted after this must not reach into it any more.
     for (FeatureTreeWidget *browser : qAsConst(m_browsers)) {
         browser->disconnect(this);
     }
     for (auto entry = m_collectionSources.cbegin(); entry != m_collectionSources.cend(); ++entry) {
         entry.key()->disconnect(this);
     }
+    runGuarded([this] { retire(); });
+}
+
+void CFeatureTreeWidget::retire()
+{
+    if (std::exchange(m_isRetired, true)) {
+        return;
+    }
+    if (m_menuAction) {
+        m_settings.isUserTabOpen = m_menuAction->isChecked();
+        m_settings.isUserTabAvailable = m_menuAction->isVisible();
+        m_menuAction->deleteLater();
+    }
+    savePaneSettings(m_id, m_settings);
+    // Panes without an entry say so as well, which is meant.
+    m_menuService->unregisterAction(m_menuAction, m_id.withSuffix(Ids::MenuItemSuffix));
 }
 
 void CFeatureTreeWidget::createHint(bool hasWorkbench)
@@ -134,194 +133,116 @@ void CFeatureTreeWidget::registerCopyAction()
     }
 }
 
-void CFeatureTreeWidget::onParameterSourceRegistered(BaseInfoPtr ptrInfo)
+// While it throws, nobody else deletes the action.
+void CFeatureTreeWidget::createMenuAction()
 {
-    if (!ptrInfo) {
-        logMissingInfo();
-        return;
+    auto action = std::make_unique<QAction>();
+    action->setCheckable(true);
+    connect(action.get(), &QAction::triggered, this, &CFeatureTreeWidget::onToggleVisibility);
+    AppCore::IActionContainer *menu = m_menuService->actionContainer(Core::CId(Ids::WindowMenu));
+    m_menuCommand = m_menuService->registerAction(
+        action.get(), m_id.withSuffix(Ids::MenuItemSuffix),
+        Core::AppCoreComponents::CContext(Core::CId(Ids::GlobalContext)));
+    if (menu) {
+        menu->addAction(m_menuCommand, Core::CId(Ids::WindowsGroup));
     }
-    const CollectionPtr collection = m_parameterService->parameterCollection(ptrInfo);
-    if (!collection) {
-        logMissingCollection();
-        return;
+    m_menuAction = action.get();
+    setUserTabName(m_settings.userTabName);
+    action->setVisible(m_settings.isUserTabAvailable);
+    if (m_settings.isUserTabAvailable && m_settings.isUserTabOpen) {
+        m_windowService->setDockWidgetVisible(m_id, true);
+        action->setChecked(true);
     }
-    addSource(ptrInfo, collection);
+    Q_UNUSED(action.release())
 }
 
-void CFeatureTreeWidget::addSource(const BaseInfoPtr &info, const CollectionPtr &collection)
+void CFeatureTreeWidget::setUserTabName(const QString &name)
 {
-    m_collectionSources.insert(collection, info);
-    FeatureTreeWidget *browser = m_browsers.value(info);
-    if (!browser) {
-        browser = new FeatureTreeWidget(QString(), info, nullptr);
-        m_browsers.insert(info, browser);
-        connect(collection.data(), &IParameterCollection::nodeMapAttached, this,
-                &CFeatureTreeWidget::onParameterCollectionAttached);
+    m_settings.userTabName = name;
+    QString shown = name;
+    shown.replace(QLatin1Char('&'), QLatin1String("&&")); // no mnemonic
+    const QString title = tr("Features") + QStringLiteral(" \u2013 ") + shown;
+    m_menuAction->setText(title);
+    if (m_menuCommand) {
+        constexpr int textChanged = 2;
+        m_menuCommand->setAttribute(textChanged);
     }
-    const QStringList paths = collection->attachedParameterPaths();
-    for (const QString &path : paths) {
-        attachCollection(browser, collection, info, path);
-    }
-    // Shown at once, before any word of the host.
-    onActiveParameterSourceChanged(info);
+    m_windowService->setDockWidgetTitle(m_id, title);
 }
 
-void CFeatureTreeWidget::attachCollection(FeatureTreeWidget *browser,
-                                          const CollectionPtr &collection, const BaseInfoPtr &info,
-                                          const QString &path)
+bool CFeatureTreeWidget::isAllPane() const
 {
-    if (browser) {
-        const ParameterTree tree = parameterTree(info, path);
-        browser->addParameterCollection(collection, tree.rootName, path, tree.isUtf8);
-    }
+    return m_id == Core::CId(Ids::AllPane);
 }
 
-void CFeatureTreeWidget::onParameterCollectionAttached(const QString &parameterPath)
+bool CFeatureTreeWidget::isUserPane() const
 {
-    const auto *source = qobject_cast<IParameterCollection *>(sender());
-    if (!source) {
-        logMissingCollection();
-        return;
-    }
-    const QList<CollectionPtr> collections = m_collectionSources.keys();
-    const auto collection =
-        std::find_if(collections.cbegin(), collections.cend(),
-                     [&](const CollectionPtr &candidate) { return candidate == source; });
-    const BaseInfoPtr info =
-        collection == collections.cend() ? BaseInfoPtr() : m_collectionSources.value(*collection);
-    if (!info) {
-        logMissingInfo();
-        return;
-    }
-    attachCollection(m_browsers.value(info), *collection, info, parameterPath);
+    return userTabIndex(m_id) >= 0;
 }
 
-void CFeatureTreeWidget::onActiveParameterSourceChanged(BaseInfoPtr ptrInfo)
+void CFeatureTreeWidget::onToggleVisibility()
 {
-    FeatureTreeWidget *browser = m_browsers.value(ptrInfo);
-    setCurrentBrowser(browser);
-    m_copyCameraFeaturesAction->setEnabled(browser != nullptr);
+    m_windowService->setDockWidgetVisible(m_id, m_menuAction->isChecked());
 }
 
-void CFeatureTreeWidget::setCurrentBrowser(FeatureTreeWidget *browser)
+// The window Edit Feature Tabs comes and goes with the All pane.
+bool CFeatureTreeWidget::isOptionsWindowOurs() const
 {
-    if (browser == m_currentBrowser) {
-        return;
+    return m_optionsWindow && isAllPane() && m_optionsWindow->isVisible();
+}
+
+void CFeatureTreeWidget::showEvent(QShowEvent *event)
+{
+    if (isOptionsWindowOurs()) {
+        m_optionsWindow->setFlags(Internal::View::optionsWindowFlags(true));
+        m_optionsWindow->showNormal();
+        m_optionsWindow->raise();
+    } else {
+        updateMenuAction();
     }
-    if (m_currentBrowser) {
-        m_currentBrowser->hide();
-        disconnectBrowser(m_currentBrowser);
-        layout()->removeWidget(m_currentBrowser);
+    QWidget::showEvent(event);
+}
+
+void CFeatureTreeWidget::hideEvent(QHideEvent *event)
+{
+    if (!isOptionsWindowOurs()) {
+        updateMenuAction();
+    } else if (event->spontaneous()) {
+        m_optionsWindow->showMinimized();
+    } else {
+        m_optionsWindow->hide();
     }
-    m_currentBrowser = browser;
-    if (!browser) {
-        showHint();
-        return;
-    }
-    layout()->addWidget(browser);
-    browser->show();
-    layout()->removeWidget(m_hintLabel);
-    m_hintLabel->hide();
-    connectBrowser(browser);
-    // So that the host's status display follows the change of source.
-    const auto *item = qobject_cast<FeatureTreeINodeItem *>(browser->currentItem());
-    if (item && item->parameter()) {
-        Q_EMIT currentChanged(item->parameter());
+    QWidget::hideEvent(event);
+}
+
+// Qt's event delivery bears no exception: the entry keeps its mark then.
+void CFeatureTreeWidget::updateMenuAction()
+{
+    if (m_menuAction && m_windowService) {
+        runGuarded(
+            [this] { m_menuAction->setChecked(!m_windowService->isDockWidgetClosed(m_id)); });
     }
 }
 
-void CFeatureTreeWidget::connectBrowser(FeatureTreeWidget *browser) const
+void CFeatureTreeWidget::onScalingChanged(double dpi)
 {
-    connect(browser, &FeatureTreeWidget::visibilityChanged, this,
-            &CFeatureTreeWidget::visibilityChanged);
-    connect(browser, qOverload<QSharedPointer<IParameter>>(&FeatureTreeWidget::onCurrentChanged),
-            this, &CFeatureTreeWidget::currentChanged);
-    connect(browser, &FeatureTreeWidget::onNewText, this, &CFeatureTreeWidget::newText);
-    // A browser that was taken out with another one's source is connected already; its menu would
-    // show twice.
-    connect(browser, &FeatureTreeWidget::contextMenuRequested, this,
-            &CFeatureTreeWidget::onContextMenuRequested, Qt::UniqueConnection);
+    if (m_optionsWindow && isAllPane()) {
+        const QSize size = Internal::View::optionsWindowSize(dpi);
+        m_optionsWindow->setMinimumSize(size);
+        m_optionsWindow->resize(size);
+    }
 }
 
-void CFeatureTreeWidget::disconnectBrowser(FeatureTreeWidget *browser) const
+// The new screen is not followed any further, which is meant.
+void CFeatureTreeWidget::onCurrentScreenChanged(QScreen *pScreen)
 {
-    browser->disconnect(this);
-}
-
-void CFeatureTreeWidget::showHint()
-{
-    layout()->addWidget(m_hintLabel);
-    m_hintLabel->show();
-}
-
-void CFeatureTreeWidget::onParameterSourceUnregistered(BaseInfoPtr ptrInfo)
-{
-    if (!ptrInfo) {
-        logMissingInfo();
-        return;
+    if (m_currentScreen) {
+        disconnect(m_currentScreen, &QScreen::logicalDotsPerInchChanged, this,
+                   &CFeatureTreeWidget::onScalingChanged);
     }
-    removeSource(ptrInfo);
-}
-
-// The entries of m_collectionSources stay, which is meant: a source that comes back finds its own.
-void CFeatureTreeWidget::removeSource(const BaseInfoPtr &info)
-{
-    FeatureTreeWidget *browser = m_browsers.value(info);
-    if (!browser) {
-        return;
-    }
-    browser->clear();
-    for (auto entry = m_collectionSources.cbegin(); entry != m_collectionSources.cend(); ++entry) {
-        if (entry.value() == info) {
-            disconnect(entry.key().data(), &IParameterCollection::nodeMapAttached, this,
-                       &CFeatureTreeWidget::onParameterCollectionAttached);
-        }
-    }
-    m_browsers.remove(info);
-    if (m_currentBrowser) {
-        // Whichever it is: the host names the next source. Hidden too, or it would cover the hint.
-        m_currentBrowser->hide();
-        layout()->removeWidget(m_currentBrowser);
-    }
-    showHint();
-    discard(browser);
-    m_currentBrowser = nullptr;
-    m_copyCameraFeaturesAction->setEnabled(false);
-}
-
-// Below an open menu stands a signal of the browser, which must find it alive when it returns.
-void CFeatureTreeWidget::discard(FeatureTreeWidget *browser)
-{
-    if (m_openMenus == 0) {
-        delete browser;
-        return;
-    }
-    browser->hide();
-    m_discarded.append(browser);
-}
-
-void CFeatureTreeWidget::onContextMenuRequested(QPoint point, QSharedPointer<QMenu> ptrMenu)
-{
-    const AppCore::IActionContainer *container =
-        m_menuService->actionContainer(Core::CId(Ids::FeatureTreeContextMenu));
-    if (container && container->menu()) {
-        ptrMenu->addActions(container->menu()->actions());
-    }
-    if (ptrMenu->isEmpty()) {
-        return;
-    }
-    const QPointer<CFeatureTreeWidget> self(this);
-    ++m_openMenus;
-    ptrMenu->exec(point);
-    if (!self) {
-        return;
-    }
-    --m_openMenus;
-    if (m_openMenus == 0) {
-        const QVector<FeatureTreeWidget *> discarded = std::exchange(m_discarded, {});
-        for (FeatureTreeWidget *browser : discarded) {
-            browser->deleteLater();
-        }
+    m_currentScreen = pScreen;
+    if (pScreen) {
+        onScalingChanged(pScreen->logicalDotsPerInch());
     }
 }
 
@@ -336,6 +257,26 @@ void CFeatureTreeWidget::onCopyCameraFeaturesTriggered()
 {
     if (m_currentBrowser) {
         m_currentBrowser->copyToClipboard();
+    }
+}
+
+void CFeatureTreeWidget::onFirstSectionSizeChanged(int width, bool isConnectedToTreeView)
+{
+    if (isConnectedToTreeView == isAllPane()) {
+        m_settings.nameColumnWidth = width;
+    }
+}
+
+void CFeatureTreeWidget::onCategoryColumnWidthChanged(int width)
+{
+    m_settings.treeWidth = width;
+}
+
+// The browser has moved its row already. User tabs are kept in order by the window that edits them.
+void CFeatureTreeWidget::onOrderOfTableItemsChanged(int from, int to)
+{
+    if (!isAllPane() && !isUserPane()) {
+        moveFeature(m_settings.features, from, to);
     }
 }
 

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "panesettings.h"
+
 #include "plugin/contract/appcore/baseinfo.h"
 #include "plugin/contract/core/id.h"
 #include "plugin/contract/genapi/visibility.h"
@@ -11,20 +13,26 @@
 #include <QMap>
 #include <QMenu>
 #include <QPoint>
+#include <QPointer>
+#include <QQuickView>
 #include <QSharedPointer>
+#include <QVariantMap>
 #include <QVector>
 #include <QWidget>
 
 class FeatureTreeWidget;
 class QAction;
 class QLabel;
+class QScreen;
 
 namespace ParameterCollection {
 class IParameterCollection;
 }
 namespace Plugin::AppCore {
+class IActionCommand;
 class IMenuService;
-}
+class IWindowService;
+} // namespace Plugin::AppCore
 namespace Plugin::FeatureTree {
 class IFeatureTreeControlService;
 }
@@ -34,20 +42,32 @@ class IParameterService;
 
 namespace Plugin::Tessera {
 
+class IFeatureTreeUseCaseService;
+
 /// One dock of the host. Keeps a browser for each parameter source, shows the one of the active
-/// source, and a hint while there is none.
+/// source, and a hint while there is none. The id tells what the browsers show: the tree of all
+/// features, the basic ones, or those of one of four tabs that the user makes.
 class CFeatureTreeWidget final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `id` is the id of the dock as well. With `hasWorkbench` the hint names the Workbench too.
+    /// `id` is the id of the dock as well. `optionsWindow` is the window Edit Feature Tabs, which
+    /// all panes share and none owns; null while there is none. With `hasWorkbench` the hint names
+    /// the Workbench too. Lets exceptions of the host pass.
     CFeatureTreeWidget(
         QSharedPointer<Plugin::AppCore::IMenuService> menuService,
         QSharedPointer<Plugin::FeatureTree::IFeatureTreeControlService> controlService,
         QSharedPointer<Plugin::ParameterCollectionPool::IParameterService> parameterService,
-        const Core::CId &id, bool hasWorkbench);
+        QSharedPointer<Plugin::Tessera::IFeatureTreeUseCaseService> useCaseService,
+        QSharedPointer<Plugin::AppCore::IWindowService> windowService, const Core::CId &id,
+        QQuickView *optionsWindow, bool hasWorkbench);
     ~CFeatureTreeWidget() override;
+
+    /// Writes the settings and takes the entry in the Window menu back; the pane is of no use after
+    /// it. Lets exceptions of the host pass, which the destructor, doing the same for a pane that
+    /// nobody retired, has to drop.
+    void retire();
 
 Q_SIGNALS:
     void visibilityChanged(GenApi::EVisibility visibility);
@@ -55,6 +75,8 @@ Q_SIGNALS:
     void currentChanged(QSharedPointer<ParameterCollection::IParameter> parameter);
     /// A text for the status area.
     void newText(QString text);
+    /// Declared for the host; never emitted.
+    void addUserTab(uint i, QString name);
 
 public Q_SLOTS:
     void onContextMenuRequested(QPoint point, QSharedPointer<QMenu> ptrMenu);
@@ -66,36 +88,73 @@ public Q_SLOTS:
     void onFeatureTreeRefreshRequested();
 
 private Q_SLOTS:
+    void onScalingChanged(double dpi);
+    void onCurrentScreenChanged(QScreen *pScreen);
+    void onFirstSectionSizeChanged(int width, bool isConnectedToTreeView);
+    void onCategoryColumnWidthChanged(int width);
     void onCopyCameraFeaturesTriggered();
+    void onPollingStateChanged(bool polling);
+    void onToggleVisibility();
+    void onOrderOfTableItemsChanged(int from, int to);
+    void onBrowserVisibilityChanged(GenApi::EVisibility visibility);
+    void onBrowserCurrentChanged(QSharedPointer<ParameterCollection::IParameter> parameter);
+    void onBrowserNewText(const QString &text);
 
-private: // NOLINT(readability-redundant-access-specifiers): ends the slots
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private:
     using BaseInfoPtr = Core::AppCoreComponents::BaseInfoPtr;
     using CollectionPtr = QSharedPointer<ParameterCollection::IParameterCollection>;
+
+    class BrowserSignal;
 
     void createHint(bool hasWorkbench);
     void connectControlService();
     void registerCopyAction();
+    void createMenuAction();
+    void setUserTabName(const QString &name);
+    bool isAllPane() const;
+    bool isUserPane() const;
+    bool isOptionsWindowOurs() const;
+    void updateMenuAction();
+
     void addSource(const BaseInfoPtr &info, const CollectionPtr &collection);
+    FeatureTreeWidget *createBrowser(const BaseInfoPtr &info);
     void attachCollection(FeatureTreeWidget *browser, const CollectionPtr &collection,
                           const BaseInfoPtr &info, const QString &path);
     void removeSource(const BaseInfoPtr &info);
     void setCurrentBrowser(FeatureTreeWidget *browser);
-    void connectBrowser(FeatureTreeWidget *browser) const;
-    void disconnectBrowser(FeatureTreeWidget *browser) const;
+    void takeOutCurrentBrowser();
+    void applyUseCases(FeatureTreeWidget *browser);
+    void applySettings(FeatureTreeWidget *browser);
+    void connectBrowser(FeatureTreeWidget *browser);
+    void disconnectBrowser(FeatureTreeWidget *browser);
+    void tellCurrentParameter();
     void showHint();
     void discard(FeatureTreeWidget *browser);
+    void deleteDiscarded();
 
     QSharedPointer<Plugin::AppCore::IMenuService> m_menuService;
     QSharedPointer<Plugin::ParameterCollectionPool::IParameterService> m_parameterService;
     QSharedPointer<Plugin::FeatureTree::IFeatureTreeControlService> m_controlService;
+    QSharedPointer<Plugin::Tessera::IFeatureTreeUseCaseService> m_useCaseService;
+    QSharedPointer<Plugin::AppCore::IWindowService> m_windowService;
     Core::CId m_id;
+    QPointer<QQuickView> m_optionsWindow; // borrowed
     QMap<BaseInfoPtr, FeatureTreeWidget *> m_browsers; // by parent
     QMap<CollectionPtr, BaseInfoPtr> m_collectionSources;
     FeatureTreeWidget *m_currentBrowser = nullptr; // one of m_browsers
-    QVector<FeatureTreeWidget *> m_discarded; // by parent; deleted when no menu is open
+    QVector<FeatureTreeWidget *> m_discarded; // by parent; deleted when their signals have returned
     QLabel *m_hintLabel = nullptr; // by parent
-    QAction *m_copyCameraFeaturesAction = nullptr; // owned by the menu service
-    int m_openMenus = 0;
+    QPointer<QAction> m_copyCameraFeaturesAction; // owned by the menu service
+    QPointer<QAction> m_menuAction; // owned; in the Window menu, of a user pane only
+    AppCore::IActionCommand *m_menuCommand = nullptr; // owned by the menu service
+    PaneSettings m_settings;
+    QPointer<QScreen> m_currentScreen; // borrowed
+    int m_browserSignals = 0; // of browsers, that have not returned
+    bool m_isRetired = false;
 };
 
 } // namespace Plugin::Tessera

@@ -3,8 +3,11 @@
 
 #include "tesseraplugin.h"
 
+#include "internal/featuretreeusecaseservice.h"
 #include "internal/legacy/tree/displaynamecache.h"
+#include "internal/view/optionswindow.h"
 #include "pane/featurepane.h"
+#include "pane/panesettings.h"
 #include "plugin/constants/ids.h"
 #include "plugin/constants/logcategories.h"
 #include "plugin/contract/appcore/menuservice.h"
@@ -16,6 +19,10 @@
 #include "plugin/services/featuretreecontrolservice.h"
 #include "plugin/services/featuretreestatusservice.h"
 #include "plugin/services/servicelookup.h"
+
+#include <QApplication>
+
+#include <memory>
 
 namespace Plugin::Tessera {
 
@@ -51,6 +58,7 @@ void logException(const CaughtException &e, const QString &doing)
 CTesseraPlugin::CTesseraPlugin()
     : m_statusService(new Internal::CFeatureTreeStatusService(nullptr))
     , m_controlService(new Internal::CFeatureTreeControlService(nullptr))
+    , m_useCaseService(new Internal::CFeatureTreeUseCaseService(nullptr))
 {
     loadDisplayNameCache();
 }
@@ -69,8 +77,6 @@ bool CTesseraPlugin::initialize(QWeakPointer<Core::Service::IServiceRegistry> re
     bool succeeded = false;
     runGuarded([&] { succeeded = addToHost(); },
                [&](const CaughtException &e) {
-                   delete m_allPane.data(); // its dock may not exist
-                   m_allPane.clear();
                    removePanes();
                    logException(e, QStringLiteral("adding Tessera to DockWidget"));
                });
@@ -79,23 +85,20 @@ bool CTesseraPlugin::initialize(QWeakPointer<Core::Service::IServiceRegistry> re
 
 bool CTesseraPlugin::addToHost()
 {
+    m_useCaseService->load(); // says itself what was amiss
     registerServices();
-    if (const auto plugins = findService<Core::Plugin::IPluginInfoService>(m_registry)) {
-        m_hasWorkbench = plugins->isPluginAvailable(QLatin1String(Ids::WorkbenchPlugin));
-    }
-    const auto menuService = findService<AppCore::IMenuService>(m_registry);
-    const auto parameterService =
-        findService<ParameterCollectionPool::IParameterService>(m_registry);
-    m_windowService = findService<AppCore::IWindowService>(m_registry);
-    if (!menuService || !parameterService || !m_windowService) {
+    if (!findHostServices()) {
         logFailure(QStringLiteral(
             "At least one service necessary for initializing the Tessera plugin is missing."));
         return false;
     }
-    const Core::CId id(Ids::AllPane);
-    m_allPane =
-        new CFeatureTreeWidget(menuService, m_controlService, parameterService, id, m_hasWorkbench);
-    dock(m_allPane, id, tr("All"));
+    m_allPane = addPane(Ids::AllPane, tr("All"), true);
+    m_basicPane = addPane(Ids::BasicPane, tr("Basic"), true);
+    for (const char *id : Ids::UserPanes) {
+        QString name = loadPaneSettings(Core::CId(id)).userTabName;
+        name.replace(QLatin1Char('&'), QLatin1String("&&")); // no mnemonic
+        m_userPanes.append(addPane(id, name, false));
+    }
     return true;
 }
 
@@ -104,46 +107,96 @@ void CTesseraPlugin::registerServices()
     if (const auto registry = m_registry.toStrongRef()) {
         registry->registerService(m_statusService);
         registry->registerService(m_controlService);
+        registry->registerService(m_useCaseService);
     }
 }
 
-void CTesseraPlugin::dock(CFeatureTreeWidget *pane, const Core::CId &id, const QString &word)
+bool CTesseraPlugin::findHostServices()
 {
+    if (const auto plugins = findService<Core::Plugin::IPluginInfoService>(m_registry)) {
+        m_hasWorkbench = plugins->isPluginAvailable(QLatin1String(Ids::WorkbenchPlugin));
+    }
+    m_menuService = findService<AppCore::IMenuService>(m_registry);
+    m_parameterService = findService<ParameterCollectionPool::IParameterService>(m_registry);
+    m_windowService = findService<AppCore::IWindowService>(m_registry);
+    return m_menuService && m_parameterService && m_windowService;
+}
+
+// Until it is docked, a pane does not outlive an exception.
+CTesseraPlugin::PanePtr CTesseraPlugin::addPane(const char *id, const QString &word, bool visible)
+{
+    auto pane = std::make_unique<CFeatureTreeWidget>(
+        m_menuService, m_controlService, m_parameterService, m_useCaseService, m_windowService,
+        Core::CId(id), m_optionsWindow, m_hasWorkbench);
     pane->setWindowTitle(tr("Features") + QStringLiteral(" \u2013 ") + word);
     using Status = FeatureTree::IFeatureTreeStatusService;
     Status *status = m_statusService.data();
-    connect(pane, &CFeatureTreeWidget::visibilityChanged, status, &Status::visibilityChanged);
-    connect(pane, &CFeatureTreeWidget::currentChanged, status, &Status::currentChanged);
-    connect(pane, &CFeatureTreeWidget::newText, status, &Status::newText);
-    m_windowService->addDockWidget(id, pane, featurePaneArea, true, false);
+    connect(pane.get(), &CFeatureTreeWidget::visibilityChanged, status, &Status::visibilityChanged);
+    connect(pane.get(), &CFeatureTreeWidget::currentChanged, status, &Status::currentChanged);
+    connect(pane.get(), &CFeatureTreeWidget::newText, status, &Status::newText);
+    m_windowService->addDockWidget(Core::CId(id), pane.get(), featurePaneArea, visible, false);
+    return pane.release();
 }
 
 bool CTesseraPlugin::start()
 {
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this,
+            &CTesseraPlugin::onFocusWindowChanged);
     return true;
 }
 
 bool CTesseraPlugin::uninitialize(QWeakPointer<Core::Service::IServiceRegistry> registry)
 {
     Q_UNUSED(registry)
+    disconnect(qGuiApp, &QGuiApplication::focusWindowChanged, this,
+               &CTesseraPlugin::onFocusWindowChanged);
     removePanes();
     return true;
 }
 
-void CTesseraPlugin::removePanes()
+// Edit Feature Tabs stays above the application's windows, but not above a dialog that waits for
+// an answer, nor above other applications.
+void CTesseraPlugin::onFocusWindowChanged(QWindow *pFocusWindow)
 {
-    if (m_allPane) {
-        removeDock(Core::CId(Ids::AllPane),
-                   QStringLiteral("removing FeatureTreeWidgetAllSettings"));
-        delete m_allPane.data(); // unless the host did
-        m_allPane.clear();
+    if (!m_optionsWindow) {
+        return;
+    }
+    const bool staysOnTop = pFocusWindow && !QApplication::activeModalWidget();
+    m_optionsWindow->setFlags(Internal::View::optionsWindowFlags(staysOnTop));
+    if (staysOnTop) {
+        m_optionsWindow->raise();
+    } else {
+        m_optionsWindow->lower();
     }
 }
 
-void CTesseraPlugin::removeDock(const Core::CId &id, const QString &doing)
+void CTesseraPlugin::removePanes()
 {
-    runGuarded([&] { m_windowService->removeDockWidget(id); },
-               [&](const CaughtException &e) { logException(e, doing); });
+    removePane(m_allPane, Ids::AllPane, QStringLiteral("All"));
+    removePane(m_basicPane, Ids::BasicPane, QStringLiteral("Basic"));
+    for (int i = 0; i < m_userPanes.size(); ++i) {
+        removePane(m_userPanes.at(i), Ids::UserPanes.at(static_cast<std::size_t>(i)),
+                   QStringLiteral("User"));
+    }
+    m_userPanes.clear();
+}
+
+// The host may have deleted the pane, now or before.
+void CTesseraPlugin::removePane(const PanePtr &pane, const char *id, const QString &kind)
+{
+    const auto logFailureOf = [&](const QString &doing) {
+        return [doing, kind](const CaughtException &e) {
+            logException(e, doing + QStringLiteral(" FeatureTreeWidget%1Settings").arg(kind));
+        };
+    };
+    if (pane) {
+        runGuarded([&] { m_windowService->removeDockWidget(Core::CId(id)); },
+                   logFailureOf(QStringLiteral("removing")));
+    }
+    if (pane) {
+        const std::unique_ptr<CFeatureTreeWidget> last(pane.data());
+        runGuarded([&] { last->retire(); }, logFailureOf(QStringLiteral("deleting")));
+    }
 }
 
 } // namespace Plugin::Tessera

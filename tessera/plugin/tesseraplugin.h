@@ -6,13 +6,16 @@
 #include "plugin/contract/core/localizedplugin.h"
 
 #include <QPointer>
+#include <QQuickView>
 #include <QSharedPointer>
+#include <QVector>
 
-namespace Core {
-class CId;
-}
 namespace Plugin::AppCore {
+class IMenuService;
 class IWindowService;
+} // namespace Plugin::AppCore
+namespace Plugin::ParameterCollectionPool {
+class IParameterService;
 }
 
 namespace Plugin::Tessera {
@@ -22,10 +25,11 @@ class CFeatureTreeWidget;
 namespace Internal {
 class CFeatureTreeControlService;
 class CFeatureTreeStatusService;
+class CFeatureTreeUseCaseService;
 } // namespace Internal
 
-/// The entry of the plug-in: offers its services, docks its panes in the host's window and takes
-/// them out again at the end.
+/// The entry of the plug-in: offers its services, docks its six panes in the host's window and
+/// takes them out again at the end.
 class CTesseraPlugin final : public Core::Plugin::ALocalizedPlugin
 {
     Q_OBJECT
@@ -40,18 +44,31 @@ public:
     bool start() override;
     bool uninitialize(QWeakPointer<Core::Service::IServiceRegistry> registry) override;
 
-private:
+private Q_SLOTS:
+    void onFocusWindowChanged(QWindow *pFocusWindow);
+
+private: // NOLINT(readability-redundant-access-specifiers): ends the slots
+    using PanePtr = QPointer<CFeatureTreeWidget>;
+
     bool addToHost();
+    bool findHostServices();
     void registerServices();
-    void dock(CFeatureTreeWidget *pane, const Core::CId &id, const QString &word);
+    PanePtr addPane(const char *id, const QString &word, bool visible);
     void removePanes();
-    void removeDock(const Core::CId &id, const QString &doing);
+    void removePane(const PanePtr &pane, const char *id, const QString &kind);
 
     QWeakPointer<Core::Service::IServiceRegistry> m_registry;
-    QPointer<CFeatureTreeWidget> m_allPane; // owned: deleted when the host shuts down
+    // Owned: deleted when the host shuts down.
+    PanePtr m_allPane;
+    PanePtr m_basicPane;
+    QVector<PanePtr> m_userPanes; // by number of the user tab
     QSharedPointer<Internal::CFeatureTreeStatusService> m_statusService;
     QSharedPointer<Internal::CFeatureTreeControlService> m_controlService;
+    QSharedPointer<Internal::CFeatureTreeUseCaseService> m_useCaseService;
+    QSharedPointer<Plugin::AppCore::IMenuService> m_menuService;
+    QSharedPointer<Plugin::ParameterCollectionPool::IParameterService> m_parameterService;
     QSharedPointer<Plugin::AppCore::IWindowService> m_windowService;
+    QPointer<QQuickView> m_optionsWindow; // left to the host, which deletes it; may be null
     bool m_hasWorkbench = false;
 };
 
