@@ -4,6 +4,7 @@
 #include "featurepane.h"
 
 #include "internal/legacy/browser/featuretreewidget.h"
+#include "internal/view/featureoptionsmenu.h"
 #include "internal/view/optionswindow.h"
 #include "plugin/constants/ids.h"
 #include "plugin/contract/appcore/actioncommand.h"
@@ -49,6 +50,7 @@ CFeatureTreeWidget::CFeatureTreeWidget(
     if (isUserPane()) {
         createMenuAction();
     }
+    connectOptionsMenu();
 }
 
 CFeatureTreeWidget::~CFeatureTreeWidget()
@@ -148,6 +150,7 @@ void CFeatureTreeWidget::createMenuAction()
     }
     m_menuAction = action.get();
     setUserTabName(m_settings.userTabName);
+    setFeatureNameList(m_settings.features);
     action->setVisible(m_settings.isUserTabAvailable);
     if (m_settings.isUserTabAvailable && m_settings.isUserTabOpen) {
         m_windowService->setDockWidgetVisible(m_id, true);
@@ -168,6 +171,9 @@ void CFeatureTreeWidget::setUserTabName(const QString &name)
         m_menuCommand->setAttribute(textChanged);
     }
     m_windowService->setDockWidgetTitle(m_id, title);
+    if (Internal::View::CFeatureOptionsMenu *menu = optionsMenu()) {
+        menu->setUserTabName(userTabIndex(m_id), name);
+    }
 }
 
 bool CFeatureTreeWidget::isAllPane() const
@@ -210,7 +216,7 @@ void CFeatureTreeWidget::hideEvent(QHideEvent *event)
     } else if (event->spontaneous()) {
         m_optionsWindow->showMinimized();
     } else {
-        m_optionsWindow->hide();
+        showOptionsWindow(false);
     }
     QWidget::hideEvent(event);
 }
@@ -270,14 +276,6 @@ void CFeatureTreeWidget::onFirstSectionSizeChanged(int width, bool isConnectedTo
 void CFeatureTreeWidget::onCategoryColumnWidthChanged(int width)
 {
     m_settings.treeWidth = width;
-}
-
-// The browser has moved its row already. User tabs are kept in order by the window that edits them.
-void CFeatureTreeWidget::onOrderOfTableItemsChanged(int from, int to)
-{
-    if (!isAllPane() && !isUserPane()) {
-        moveFeature(m_settings.features, from, to);
-    }
 }
 
 } // namespace Plugin::Tessera

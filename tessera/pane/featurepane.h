@@ -44,6 +44,10 @@ namespace Plugin::Tessera {
 
 class IFeatureTreeUseCaseService;
 
+namespace Internal::View {
+class CFeatureOptionsMenu;
+}
+
 /// One dock of the host. Keeps a browser for each parameter source, shows the one of the active
 /// source, and a hint while there is none. The id tells what the browsers show: the tree of all
 /// features, the basic ones, or those of one of four tabs that the user makes.
@@ -95,6 +99,12 @@ private Q_SLOTS:
     void onCopyCameraFeaturesTriggered();
     void onPollingStateChanged(bool polling);
     void onToggleVisibility();
+    void onNewParameterNameList(int userTabIndex,
+                                const QList<ParameterCollection::ParameterName> &featureNameList);
+    void onCancel();
+    void onAdd();
+    void onHide();
+    void onAddFavoriteButtonClicked();
     void onOrderOfTableItemsChanged(int from, int to);
     void onBrowserVisibilityChanged(GenApi::EVisibility visibility);
     void onBrowserCurrentChanged(QSharedPointer<ParameterCollection::IParameter> parameter);
@@ -120,8 +130,16 @@ private:
     bool isOptionsWindowOurs() const;
     void updateMenuAction();
 
+    Internal::View::CFeatureOptionsMenu *optionsMenu() const;
+    void connectOptionsMenu();
+    void setFeatureNameList(const FeatureList &list);
+    void showOptionsWindow(bool show);
+    void placeOptionsWindow();
+    void closeOptionsWindow();
+    void discardOptions();
+
     void addSource(const BaseInfoPtr &info, const CollectionPtr &collection);
-    FeatureTreeWidget *createBrowser(const BaseInfoPtr &info);
+    FeatureTreeWidget *createBrowser(const BaseInfoPtr &info, const CollectionPtr &collection);
     void attachCollection(FeatureTreeWidget *browser, const CollectionPtr &collection,
                           const BaseInfoPtr &info, const QString &path);
     void removeSource(const BaseInfoPtr &info);

@@ -7,6 +7,7 @@
 
 #include "internal/legacy/browser/featuretreewidget.h"
 #include "internal/legacy/tree/featuretreeinodeitem.h"
+#include "internal/view/featureoptionsmenu.h"
 #include "plugin/constants/ids.h"
 #include "plugin/constants/logcategories.h"
 #include "plugin/contract/appcore/actioncontainer.h"
@@ -95,7 +96,7 @@ void CFeatureTreeWidget::addSource(const BaseInfoPtr &info, const CollectionPtr 
     m_collectionSources.insert(collection, info);
     FeatureTreeWidget *browser = m_browsers.value(info);
     if (!browser) {
-        browser = createBrowser(info);
+        browser = createBrowser(info, collection);
     }
     connect(collection.data(), &IParameterCollection::nodeMapAttached, this,
             &CFeatureTreeWidget::onParameterCollectionAttached, Qt::UniqueConnection);
@@ -107,7 +108,8 @@ void CFeatureTreeWidget::addSource(const BaseInfoPtr &info, const CollectionPtr 
     onActiveParameterSourceChanged(info);
 }
 
-FeatureTreeWidget *CFeatureTreeWidget::createBrowser(const BaseInfoPtr &info)
+FeatureTreeWidget *CFeatureTreeWidget::createBrowser(const BaseInfoPtr &info,
+                                                     const CollectionPtr &collection)
 {
     auto *browser = new FeatureTreeWidget(QString(), info, this);
     browser->hide(); // until it is shown in the layout
@@ -117,6 +119,14 @@ FeatureTreeWidget *CFeatureTreeWidget::createBrowser(const BaseInfoPtr &info)
             &CFeatureTreeWidget::onPollingStateChanged);
     browser->setUserTabMode(!isAllPane());
     browser->setAddNewFavoriteButtonVisible(isAllPane());
+    if (isAllPane()) {
+        connect(browser, &FeatureTreeWidget::addFavoriteButtonClicked, this,
+                &CFeatureTreeWidget::onAddFavoriteButtonClicked);
+    }
+    // The window works with the source that came last.
+    if (Internal::View::CFeatureOptionsMenu *menu = optionsMenu()) {
+        menu->setParameterCollection(collection);
+    }
     browser->onPollingStateChanged(m_settings.isPolling);
     return browser;
 }

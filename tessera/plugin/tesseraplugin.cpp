@@ -60,6 +60,7 @@ CTesseraPlugin::CTesseraPlugin()
     , m_controlService(new Internal::CFeatureTreeControlService(nullptr))
     , m_useCaseService(new Internal::CFeatureTreeUseCaseService(nullptr))
 {
+    Internal::View::registerOptionsWindowTypes();
     loadDisplayNameCache();
 }
 
@@ -111,11 +112,13 @@ void CTesseraPlugin::registerServices()
     }
 }
 
+// In between the window is made, so that it is there also when a service is missing.
 bool CTesseraPlugin::findHostServices()
 {
     if (const auto plugins = findService<Core::Plugin::IPluginInfoService>(m_registry)) {
         m_hasWorkbench = plugins->isPluginAvailable(QLatin1String(Ids::WorkbenchPlugin));
     }
+    m_optionsWindow = Internal::View::createOptionsWindow();
     m_menuService = findService<AppCore::IMenuService>(m_registry);
     m_parameterService = findService<ParameterCollectionPool::IParameterService>(m_registry);
     m_windowService = findService<AppCore::IWindowService>(m_registry);

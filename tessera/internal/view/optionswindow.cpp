@@ -16,7 +16,6 @@
 // Outside any namespace, as the macro wants it: a static library's resources are not found before.
 static void initialiseScenes()
 {
-    Q_INIT_RESOURCE(tessera);
     Q_INIT_RESOURCE(tessera); // icons
     Q_INIT_RESOURCE(tesseraqml);
 }

@@ -21,7 +21,7 @@ BrowserShortcuts::BrowserShortcuts(FeatureTreeWidget *browser, const BrowserWidg
 {
     const auto all = Qt::CTRL | Qt::ALT | Qt::SHIFT;
     add(widgets.filterEdit, QKeySequence(Qt::Key_F3), &BrowserShortcuts::focusSearch);
-    add(widgets.filterEdit, QKeySequence(Qt::CTRL | Qt::Key_F), &BrowserShortcuts::focusSearch);
+    add(widgets.filterEdit, QKeySequence(QStringLiteral("Ctrl+F")), &BrowserShortcuts::focusSearch);
     add(widgets.treeView, QKeySequence(all | Qt::Key_Minus), &BrowserShortcuts::collapseAll);
     add(browser, QKeySequence(all | Qt::Key_Plus), &BrowserShortcuts::expandAll);
     widgets.resetButton->installEventFilter(this);

@@ -13,7 +13,6 @@ class FeatureTreeWidget;
 class QKeySequence;
 class QPushButton;
 
-
 /// The keys of a browser that have no menu entry: F3 and Ctrl+F go to the search, with Ctrl, Alt
 /// and Shift the minus key closes and the plus key opens all categories, F5 refreshes.
 ///

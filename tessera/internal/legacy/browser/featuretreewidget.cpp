@@ -53,7 +53,7 @@ namespace {
 
 // In pixels at 96 dpi.
 constexpr double categoryColumnWidth = 250.0;
-constexpr double nameColumnWidth = 220.0;
+constexpr double nameColumnWidth = 240.0;
 
 void logEntry(Core::Logging::ELogLevel level, const QString &text)
 {

@@ -134,9 +134,9 @@ private Q_SLOTS:
     void onVisibilityChanged(int value);
     void onUseCaseComboBoxCurrentIndexChanged(int index);
     void onUseCaseEditAction();
-    void on_resetButton_clicked();
-    void on_addNewFavoriteButton_clicked();
-    void on_checkBoxPolling_clicked();
+    void on_resetButton_clicked(); // clazy:exclude=connect-by-name
+    void on_addNewFavoriteButton_clicked(); // clazy:exclude=connect-by-name
+    void on_checkBoxPolling_clicked(); // clazy:exclude=connect-by-name
     void contextualMenu(QPoint point);
     void togglePolling_triggered();
     void tableViewSectionResized(int logicalIndex, int oldSize, int size);

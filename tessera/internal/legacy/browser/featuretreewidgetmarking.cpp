@@ -30,14 +30,13 @@ constexpr double popupMargin = 20.0; // pixels at 96 dpi, beside the longest nam
 
 void FeatureTreeWidget::setUseCases(const QVariantMap &useCases)
 {
-    const auto indexChanged = qOverload<int>(&QComboBox::currentIndexChanged);
-    disconnect(m_ui->useCaseComboBox, indexChanged, this,
+    disconnect(m_ui->useCaseComboBox, qOverload<int>(&QComboBox::currentIndexChanged), this,
                &FeatureTreeWidget::onUseCaseComboBoxCurrentIndexChanged);
     fillUseCases(useCases);
     m_ui->useCaseComboBox->setCurrentIndex(m_useCaseIndex);
     m_useCaseIndex = -1;
     onUseCaseComboBoxCurrentIndexChanged(m_ui->useCaseComboBox->currentIndex());
-    connect(m_ui->useCaseComboBox, indexChanged, this,
+    connect(m_ui->useCaseComboBox, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &FeatureTreeWidget::onUseCaseComboBoxCurrentIndexChanged);
 }
 

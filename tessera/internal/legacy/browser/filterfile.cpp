@@ -78,10 +78,12 @@ bool isNestedTooDeeply(const QByteArray &xml, ParseProblem &problem)
     return false;
 }
 
+// By the same reader, so that no file is taken that was not measured to its end.
 bool parse(const QByteArray &xml, QDomDocument &document, ParseProblem &problem)
 {
+    QXmlStreamReader reader(xml);
     return !isNestedTooDeeply(xml, problem)
-        && document.setContent(xml, &problem.text, &problem.line, &problem.column);
+        && document.setContent(&reader, false, &problem.text, &problem.line, &problem.column);
 }
 
 // Null without an entry where the device lacks it, which is no mistake of the file.

@@ -38,6 +38,7 @@ QList<FeatureTreeItem *> UserTabRows::make(const QStringList &names) const
         }
     }
     QList<FeatureTreeItem *> rows;
+    rows.reserve(names.size());
     for (const QString &name : names) {
         FeatureTreeItem *item = treeItems.take(name);
         if (!item && m_collection) {
