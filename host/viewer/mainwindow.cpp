@@ -28,6 +28,7 @@
 #include <QStatusBar>
 
 #include <algorithm>
+#include <utility>
 
 namespace Viewer {
 
@@ -97,8 +98,20 @@ void MainWindow::restoreLayout()
 {
     QSettings settings;
     restoreGeometry(settings.value(layoutKey("Geometry")).toByteArray());
-    if (!restoreState(settings.value(layoutKey("State")).toByteArray())) {
+    const QByteArray state = settings.value(layoutKey("State")).toByteArray();
+    if (restoreState(state)) {
+        m_shownState = state;
+    } else {
         arrangeDocks();
+    }
+}
+
+// A window that is not shown yet takes up which docks are open, but not how large they are.
+void MainWindow::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    if (!m_shownState.isEmpty()) {
+        restoreState(std::exchange(m_shownState, {}));
     }
 }
 

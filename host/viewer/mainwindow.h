@@ -46,6 +46,7 @@ public:
     void saveLayout() const;
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
@@ -63,6 +64,7 @@ private:
     VisibilityLevel *m_visibilityLevel; // by parent
     DevicesView *m_devices = nullptr; // by parent
     QList<QDockWidget *> m_docks; // by parent: Devices, Documentation, Log
+    QByteArray m_shownState; // restored once more when the window is shown
 };
 
 } // namespace Viewer
