@@ -150,7 +150,8 @@ void FloatEditor::showSnapshot(const QSharedPointer<IParameter> &parameter,
 void FloatEditor::showAnswerToStep()
 {
     Plugin::Tessera::runGuarded([&] {
-        if (m_floatParameter && spinBox()->missesAnswer(m_floatParameter->value())) {
+        if (increment() > 0.0 && m_floatParameter
+            && spinBox()->missesAnswer(m_floatParameter->value())) {
             enableUpdate(true);
             m_floatParameter->refresh(true);
         }

@@ -278,7 +278,8 @@ void FloatSliderEditor::showAlias(const IntegerParameterData &snapshot)
     setRangeStepAndIncrement(lowInt(snapshot.minimum), lowInt(snapshot.maximum), increment);
     updateToolTip();
     const int value = lowInt(snapshot.value);
-    const bool overtaken = m_move.overtakes(value, slider()->isSliderDown(), *m_aliasParameter);
+    const bool overtaken =
+        m_aliasParameter && m_move.overtakes(value, slider()->isSliderDown(), *m_aliasParameter);
     if (value != intValue() && !overtaken) {
         enableUpdate(true);
         setIntValue(value);

@@ -4,6 +4,7 @@
 #include "slidermove.h"
 
 #include "plugin/contract/parametercollection/integerparameter.h"
+#include "plugin/services/exceptionbarrier.h"
 
 void SliderMove::movedTo(int value)
 {
@@ -16,10 +17,14 @@ bool SliderMove::overtakes(int value, bool isHeld,
     if (!m_value) {
         return false;
     }
-    if (value != *m_value && parameter.value() == *m_value) {
+    const int moved = *m_value;
+    bool isAtTheDevice = false;
+    Plugin::Tessera::runGuarded(
+        [&] { isAtTheDevice = value != moved && parameter.value() == moved; });
+    if (isAtTheDevice) {
         return true;
     }
-    if (value != *m_value || !isHeld) {
+    if (value != moved || !isHeld) {
         m_value.reset();
     }
     return false;

@@ -8,11 +8,12 @@
 
 namespace {
 
-// An editor of several parts passes the focus on to one of them.
+// An editor of several parts passes the focus on to one of them; a viewport passes it outwards.
 const QWidget &editorOf(const QWidget &part)
 {
     const QWidget *parent = part.parentWidget();
-    return parent && parent->focusProxy() ? *parent : part;
+    const QWidget *proxy = parent ? parent->focusProxy() : nullptr;
+    return proxy && parent->isAncestorOf(proxy) ? *parent : part;
 }
 
 } // namespace

@@ -17,6 +17,7 @@
 
 #include <QFontMetrics>
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QScopeGuard>
 #include <QScreen>
 #include <QTextDocumentFragment>
@@ -117,7 +118,13 @@ void FeatureTreeDelegate::describe(QWidget *editor, const FeatureTreeINodeItem &
 {
     editor->setAccessibleName(item.text());
     const QString toolTip = item.data(0, Qt::ToolTipRole).toString();
-    editor->setAccessibleDescription(QTextDocumentFragment::fromHtml(toolTip).toPlainText());
+    const QString description = QTextDocumentFragment::fromHtml(toolTip).toPlainText();
+    editor->setAccessibleDescription(description);
+    // Of an editor of several parts, the one that has the keyboard is the one that is read out.
+    if (QWidget *part = editor->focusProxy()) {
+        part->setAccessibleName(item.text());
+        part->setAccessibleDescription(description);
+    }
 }
 
 QWidget *FeatureTreeDelegate::createValueEditor(const FeatureTreeINodeItem &item, QWidget *parent,
@@ -175,6 +182,11 @@ void FeatureTreeDelegate::writeValue(QWidget *editor, QAbstractItemModel *model,
     const auto *integerEditor = qobject_cast<IntEditor *>(editor);
     if (integerEditor && integerEditor->showsNotReadable()) {
         return; // a text in place of the value is none
+    }
+    const auto *line = qobject_cast<QLineEdit *>(editor);
+    const FeatureTreeINodeItem *feature = nodeItem(index);
+    if (line && !line->isModified() && feature && feature->accessMode() == 2) {
+        return; // what can only be written opens empty
     }
     const auto *itemEditor = dynamic_cast<AbstractItemEditor *>(editor);
     if (index.column() == 1 && itemEditor) {

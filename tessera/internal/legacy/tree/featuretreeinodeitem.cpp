@@ -61,7 +61,7 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
     : FeatureTreeINodeItem(std::move(collection), std::move(parameter), QString(), model, fullName,
                            parentItem, isUtf8, depth)
 {
-    if (isCategory()) {
+    if (columnCount() == 1) { // a category, also where its first snapshot could not be had
         subscribe();
     }
     setText(m_displayName);

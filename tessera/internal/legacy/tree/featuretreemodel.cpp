@@ -277,7 +277,11 @@ void FeatureTreeModel::onTimerPoll()
         pollNodes({});
     } else if (!m_collections.isEmpty()) {
         const auto collection = m_collections.constFirst().collection;
-        runGuarded([&] { collection->poll(m_pollIntervalMs); });
+        runGuarded([&] {
+            if (collection) {
+                collection->poll(m_pollIntervalMs);
+            }
+        });
     }
     if (m_polling) {
         m_pollTimer.start(m_pollIntervalMs);

@@ -326,6 +326,7 @@ private Q_SLOTS:
         QFETCH(int, row);
         const QVariant before = onCamera(row);
         const int notch = row == Choice ? -1 : 1;
+        m_table->editor(row == Choice ? StepFloat : Choice)->setFocus(); // not the one below
         m_table->resize(500, 100);
         m_table->scrollTo(m_table->values().index(row, 1));
         QCoreApplication::processEvents();

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void writesWhatTheUserDoes_data();
     void writesWhatTheUserDoes();
     void writesNoTextThatStandsForAValue();
+    void leavesASecretAloneThatNobodyTyped();
     void leavesATextAloneThatIsBeingTyped();
     void showsASnapshotInAnEditorThatDecidesForItself();
     void keepsAnEditorThatClosesInsideItsCommit();
@@ -233,10 +234,21 @@ void tst_FeatureTreeDelegate::writesNoTextThatStandsForAValue()
     QTRY_VERIFY(!editor);
     QCOMPARE(node().writes, QStringList());
     editor = open();
+    QVERIFY(editor);
     QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(editor, QStringLiteral("9"));
     QTest::keyClick(editor, Qt::Key_Return);
     QTRY_COMPARE(node().writes, QStringList {QStringLiteral("9")});
+}
+
+void tst_FeatureTreeDelegate::leavesASecretAloneThatNobodyTyped()
+{
+    add(QStringLiteral("F String x wo"));
+    const QPointer<QWidget> editor = open();
+    QVERIFY(editor);
+    QTest::keyClick(editor, Qt::Key_Return);
+    QTRY_VERIFY(!editor);
+    QCOMPARE(node().writes, QStringList());
 }
 
 void tst_FeatureTreeDelegate::leavesATextAloneThatIsBeingTyped()
