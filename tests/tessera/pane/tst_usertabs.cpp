@@ -1,0 +1,317 @@
+// SPDX-FileCopyrightText: 2026 Tessera contributors
+// SPDX-License-Identifier: MIT
+
+#include "internal/featuretreeusecaseservice.h"
+#include "internal/legacy/browser/featuretreewidget.h"
+#include "internal/view/featureoptionsmenu.h"
+#include "internal/view/featuretableview.h"
+#include "internal/view/optionswindow.h"
+#include "pane/featurepane.h"
+#include "plugin/services/featuretreecontrolservice.h"
+#include "support/fakecollection.h"
+#include "support/warningguard.h"
+
+#include "host/framework/camerarecord.h"
+#include "host/framework/menuservice.h"
+#include "host/framework/parameterpool.h"
+#include "host/framework/quick.h"
+#include "host/framework/windowservice.h"
+
+#include <QAction>
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+#include <vector>
+
+using Core::AppCoreComponents::BaseInfoPtr;
+using Plugin::Tessera::CFeatureTreeWidget;
+using Plugin::Tessera::Internal::CFeatureTreeControlService;
+using Plugin::Tessera::Internal::CFeatureTreeUseCaseService;
+using Plugin::Tessera::Internal::View::CFeatureOptionsMenu;
+
+namespace {
+
+const QString device = QStringLiteral("@CameraDevice");
+
+QString path(const char *name)
+{
+    return device + QLatin1Char('/') + QLatin1String(name);
+}
+
+} // namespace
+
+/// The All pane, the four user panes and the window in which user tabs are made.
+class tst_UserTabs : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QCoreApplication::setOrganizationName(QStringLiteral("tessera"));
+        QCoreApplication::setApplicationName(QStringLiteral("test"));
+        QSettings::setDefaultFormat(QSettings::IniFormat);
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_folder.path());
+        Host::prepareQuick();
+        Plugin::Tessera::Internal::View::registerOptionsWindowTypes();
+    }
+
+    void init()
+    {
+        m_guard.begin();
+        QSettings().clear();
+        m_info.reset(new Host::CameraRecord(QStringLiteral("Cam"), QStringLiteral("Model"),
+                                            QStringLiteral("GEV")));
+        m_collection = QSharedPointer<Tests::FakeCollection>::create();
+        m_collection->attach(device,
+                             QStringLiteral("Image\n  Width Integer 640\n  Height Integer 480\n"
+                                            "  Gain Float 1\n"));
+        start();
+    }
+
+    void cleanup()
+    {
+        stop();
+        m_guard.verify();
+    }
+
+    void opensAndClosesWithItsPane()
+    {
+        QVERIFY(!m_options->isVisible());
+        openWindow();
+        QCOMPARE(m_options->flags() & Qt::WindowStaysOnTopHint, Qt::WindowStaysOnTopHint);
+        dock(0)->hide();
+        QVERIFY(!m_options->isVisible());
+        dock(0)->show();
+        openWindow();
+        m_control->setActiveParameterSource(BaseInfoPtr());
+        QVERIFY(!m_options->isVisible());
+        m_control->setActiveParameterSource(m_info);
+        openWindow();
+        m_control->unregisterParameterSource(m_info);
+        QVERIFY(!m_options->isVisible());
+    }
+
+    void makesTabsThatSurviveARestart()
+    {
+        openWindow();
+        send("nameChanged", 0, QStringLiteral("R&D"));
+        send("addFeature", 0, path("Gain"));
+        send("addFeature", 0, path("Width"));
+        send("addFeature", 1, path("Height"));
+        send("nameChanged", 3, QStringLiteral("Empty"));
+        QVERIFY(dock(1)->isHidden()); // nothing holds before OK
+        press("add");
+        QVERIFY(!m_options->isVisible());
+        const auto check = [this] {
+            QCOMPARE(dock(1)->windowTitle(), QStringLiteral("Features \u2013 R&&D"));
+            QCOMPARE(rows(1), QStringLiteral("Gain Width "));
+            QCOMPARE(dock(2)->windowTitle(), QStringLiteral("Features \u2013 My tab 2"));
+            QCOMPARE(rows(2), QStringLiteral("Height "));
+            QVERIFY(dock(3)->isHidden());
+            QCOMPARE(rows(4), QString());
+            QVERIFY(!dock(4)->isHidden());
+        };
+        check();
+        restart();
+        check();
+
+        openWindow();
+        QCOMPARE(menu()->userTabNames().constFirst(), QStringLiteral("R&D"));
+        send("remove", 1);
+        press("add");
+        QVERIFY(dock(2)->isHidden() && !dock(1)->isHidden());
+        dock(1)->hide();
+        openWindow();
+        press("add");
+        QVERIFY(!dock(1)->isHidden()); // OK opens it again
+    }
+
+    void cancelChangesNothing_data()
+    {
+        QTest::addColumn<QByteArray>("button");
+        QTest::newRow("cancel") << QByteArray("cancel");
+        QTest::newRow("hide") << QByteArray("hide");
+    }
+
+    void cancelChangesNothing()
+    {
+        QFETCH(QByteArray, button);
+        openWindow();
+        send("nameChanged", 0, QStringLiteral("Mine"));
+        send("addFeature", 0, path("Gain"));
+        press("add");
+        openWindow();
+        send("nameChanged", 0, QStringLiteral("Other"));
+        send("removeFeature", 0, path("Gain"));
+        press(button);
+        QVERIFY(!m_options->isVisible());
+        QCOMPARE(rows(1), QStringLiteral("Gain "));
+        QCOMPARE(menu()->userTabNames().constFirst(), QStringLiteral("Mine"));
+        QCOMPARE(menu()->featureNameList(0).size(), 1);
+    }
+
+    void aMovedFavouriteStaysMoved()
+    {
+        openWindow();
+        send("nameChanged", 0, QStringLiteral("Mine"));
+        for (const char *name : {"Gain", "Width", "Height"}) {
+            send("addFeature", 0, path(name));
+        }
+        press("add");
+        auto *browser = m_panes.at(1)->findChild<FeatureTreeWidget *>();
+        browser->tableView()->setCurrentIndex(browser->tableView()->model()->index(2, 0));
+        browser->findChild<QAction *>(QStringLiteral("actionMoveFavouriteUp"))->trigger();
+        QCOMPARE(rows(1), QStringLiteral("Gain Height Width "));
+        openWindow();
+        press("cancel");
+        openWindow();
+        press("add");
+        QCOMPARE(rows(1), QStringLiteral("Gain Height Width "));
+        restart();
+        QCOMPARE(rows(1), QStringLiteral("Gain Height Width "));
+    }
+
+    void worksWithoutTheScene()
+    {
+        stop();
+        m_options.reset(new QQuickView); // as after a fault in a scene: no root
+        makePanes();
+        dock(0)->hide();
+        dock(0)->show();
+        clickEditFeatureTabs();
+        QVERIFY(m_options->isVisible());
+    }
+
+private:
+    void start()
+    {
+        m_options.reset(Plugin::Tessera::Internal::View::createOptionsWindow());
+        QVERIFY(menu());
+        makePanes();
+    }
+
+    void makePanes()
+    {
+        m_window = std::make_unique<QMainWindow>();
+        m_menuService.reset(new Host::MenuService(nullptr));
+        m_docks.reset(new Host::WindowService(m_window.get(), m_menuService));
+        m_control.reset(new CFeatureTreeControlService(nullptr));
+        m_pool.reset(new Host::ParameterPool);
+        m_useCases.reset(new CFeatureTreeUseCaseService(nullptr));
+        m_pool->insert(m_info, m_collection);
+        m_window->resize(1000, 700);
+        for (const char *id : {"Tessera.Widget.All", "Tessera.Widget.User0", "Tessera.Widget.User1",
+                               "Tessera.Widget.User2", "Tessera.Widget.User3"}) {
+            m_panes.push_back(new CFeatureTreeWidget(m_menuService, m_control, m_pool, m_useCases,
+                                                     m_docks, Core::CId(id), m_options.get(),
+                                                     false));
+            m_docks->addDockWidget(Core::CId(id), m_panes.back(), Host::WindowService::Features,
+                                   m_panes.size() == 1, false);
+        }
+        m_window->show();
+        m_control->registerParameterSource(m_info);
+    }
+
+    void stop()
+    {
+        for (const QPointer<CFeatureTreeWidget> &pane : m_panes) {
+            delete pane;
+        }
+        m_panes.clear();
+        m_control.reset();
+        m_docks.reset();
+        m_menuService.reset();
+        m_window.reset();
+        m_options.reset();
+    }
+
+    void restart()
+    {
+        stop();
+        start();
+    }
+
+    CFeatureOptionsMenu *menu() const
+    {
+        return qobject_cast<CFeatureOptionsMenu *>(m_options->rootObject());
+    }
+
+    QDockWidget *dock(int pane) const
+    {
+        QWidget *widget = m_panes.at(static_cast<std::size_t>(pane));
+        while (widget && !qobject_cast<QDockWidget *>(widget)) {
+            widget = widget->parentWidget();
+        }
+        return qobject_cast<QDockWidget *>(widget);
+    }
+
+    void clickEditFeatureTabs() const
+    {
+        m_docks->setDockWidgetVisible(Core::CId("Tessera.Widget.All"), true);
+        auto *button =
+            m_panes.front()->findChild<QPushButton *>(QStringLiteral("addNewFavoriteButton"));
+        QTest::mouseClick(button, Qt::LeftButton);
+    }
+
+    void openWindow() const
+    {
+        clickEditFeatureTabs();
+        QVERIFY(m_options->isVisible());
+    }
+
+    // What the controls of the scene do.
+    template<typename... Arguments> void send(const char *signal, const Arguments &...arguments)
+    {
+        QVERIFY(QMetaObject::invokeMethod(menu(), signal,
+                                          QArgument<Arguments>(name(arguments), arguments)...));
+    }
+    void press(const QByteArray &signal)
+    {
+        QVERIFY(QMetaObject::invokeMethod(menu(), signal.constData()));
+    }
+    static const char *name(int /*argument*/)
+    {
+        return "int";
+    }
+    static const char *name(const QString & /*argument*/)
+    {
+        return "QString";
+    }
+
+    /// The names in the table of a pane.
+    QString rows(int pane) const
+    {
+        const auto *browser =
+            m_panes.at(static_cast<std::size_t>(pane))->findChild<FeatureTreeWidget *>();
+        QString text;
+        for (int row = 0; row < browser->tableView()->model()->rowCount(); ++row) {
+            text +=
+                browser->tableView()->model()->index(row, 0).data().toString() + QLatin1Char(' ');
+        }
+        return text;
+    }
+
+    QTemporaryDir m_folder;
+    BaseInfoPtr m_info;
+    QSharedPointer<Tests::FakeCollection> m_collection;
+    std::unique_ptr<QMainWindow> m_window;
+    std::unique_ptr<QQuickView> m_options;
+    QSharedPointer<Host::MenuService> m_menuService;
+    QSharedPointer<Host::WindowService> m_docks;
+    QSharedPointer<Host::ParameterPool> m_pool;
+    QSharedPointer<CFeatureTreeControlService> m_control;
+    QSharedPointer<CFeatureTreeUseCaseService> m_useCases;
+    std::vector<QPointer<CFeatureTreeWidget>> m_panes; // All, User0 to User3
+    Tests::WarningGuard m_guard;
+};
+
+QTEST_MAIN(tst_UserTabs)
+#include "tst_usertabs.moc"
