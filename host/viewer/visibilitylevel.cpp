@@ -6,10 +6,13 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QMainWindow>
+#include <QPointer>
 #include <QSettings>
+#include <QVector>
 #include <QWidget>
 
 #include <algorithm>
+#include <iterator>
 
 namespace Viewer {
 
@@ -61,11 +64,15 @@ void VisibilityLevel::setLevel(int level)
 
 void VisibilityLevel::tellBrowsers()
 {
+    // A browser that takes another level makes and deletes widgets.
     const auto widgets = m_window->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        if (widget->inherits("FeatureTreeWidget") && widget->property(toldLevel) != m_level) {
-            widget->setProperty(toldLevel, m_level);
-            QMetaObject::invokeMethod(widget, "onVisibilityChanged", Q_ARG(int, m_level));
+    QVector<QPointer<QWidget>> browsers;
+    std::copy_if(widgets.cbegin(), widgets.cend(), std::back_inserter(browsers),
+                 [](const QWidget *widget) { return widget->inherits("FeatureTreeWidget"); });
+    for (const QPointer<QWidget> &browser : qAsConst(browsers)) {
+        if (browser && browser->property(toldLevel) != m_level) {
+            browser->setProperty(toldLevel, m_level);
+            QMetaObject::invokeMethod(browser, "onVisibilityChanged", Q_ARG(int, m_level));
         }
     }
 }
