@@ -17,6 +17,7 @@
 #include "support/warningguard.h"
 
 #include "host/framework/parameterpool.h"
+#include "host/framework/quick.h"
 #include "host/framework/serviceregistry.h"
 
 #include <QAction>
@@ -240,6 +241,7 @@ private Q_SLOTS:
             m_plugin->uninitialize(m_registry);
             m_plugin.reset();
         }
+        Host::deleteQuickWindows();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         m_guard.verify();
     }
