@@ -55,7 +55,11 @@ function(tessera_add_test)
         set(platform xcb)
         set_property(TEST ${arg_NAME} PROPERTY LABELS display)
     endif()
-    set_property(TEST ${arg_NAME} PROPERTY TIMEOUT 300)
+    set(timeout 300)
+    if(TESSERA_SANITIZE) # slows a test down tenfold and more
+        set(timeout 1200)
+    endif()
+    set_property(TEST ${arg_NAME} PROPERTY TIMEOUT ${timeout})
     set_property(TEST ${arg_NAME} PROPERTY ENVIRONMENT
         "QT_QPA_PLATFORM=${platform}" QT_XCB_GL_INTEGRATION=none QT_QUICK_BACKEND=software QT_FONT_DPI=96 LC_ALL=C.UTF-8
         "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/leaks-of-others.txt:print_suppressions=0"
