@@ -429,7 +429,8 @@ private Q_SLOTS:
              {key("ConnectedFeatureColumnWidth"), 88}},
             {});
         row("huge list", user,
-            {{key("UserTabFeatureNameList1"), key("@X/Y").prepend(QString(200000, QLatin1Char(',')))}},
+            {{key("UserTabFeatureNameList1"),
+              key("@X/Y").prepend(QString(200000, QLatin1Char(',')))}},
             {{key("UserTabFeatureNameList1"), key("@X/Y")}}, {untitled});
     }
 
