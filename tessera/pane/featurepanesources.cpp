@@ -235,12 +235,10 @@ void CFeatureTreeWidget::applySettings(FeatureTreeWidget *browser)
 // would undo itself and a menu show again.
 void CFeatureTreeWidget::connectBrowser(FeatureTreeWidget *browser)
 {
-    const auto onCurrentChanged =
-        qOverload<QSharedPointer<IParameter>>(&FeatureTreeWidget::onCurrentChanged);
     connect(browser, &FeatureTreeWidget::visibilityChanged, this,
             &CFeatureTreeWidget::onBrowserVisibilityChanged, Qt::UniqueConnection);
-    connect(browser, onCurrentChanged, this, &CFeatureTreeWidget::onBrowserCurrentChanged,
-            Qt::UniqueConnection);
+    connect(browser, qOverload<QSharedPointer<IParameter>>(&FeatureTreeWidget::onCurrentChanged),
+            this, &CFeatureTreeWidget::onBrowserCurrentChanged, Qt::UniqueConnection);
     connect(browser, &FeatureTreeWidget::onNewText, this, &CFeatureTreeWidget::onBrowserNewText,
             Qt::UniqueConnection);
     connect(browser, &FeatureTreeWidget::contextMenuRequested, this,

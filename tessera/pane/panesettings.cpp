@@ -18,26 +18,34 @@ namespace {
 
 namespace Keys = SettingsKeys;
 
-class OpenSettings final : public QSettings
+/// The store with the plug-in's group open.
+class Store final
 {
 public:
-    OpenSettings()
+    Store()
     {
-        beginGroup(QLatin1String(Keys::Group));
+        m_settings.beginGroup(QLatin1String(Keys::Group));
     }
 
     QString text(const QString &key) const
     {
-        return value(key, QString()).toString();
+        return m_settings.value(key, QString()).toString();
     }
     bool flag(const QString &key) const
     {
-        return value(key, QString()).toBool();
+        return m_settings.value(key, false).toBool();
     }
     int width(const QString &key) const
     {
-        return value(key, -1).toInt();
+        return m_settings.value(key, -1).toInt();
     }
+    void setValue(const QString &key, const QVariant &value)
+    {
+        m_settings.setValue(key, value);
+    }
+
+private:
+    QSettings m_settings;
 };
 
 bool isPane(const Core::CId &pane, const char *id)
@@ -55,7 +63,7 @@ QString ofBasicPane(const char *prefix)
     return QLatin1String(prefix) + QLatin1String(Ids::BasicPane);
 }
 
-void loadUserTab(const OpenSettings &store, int tab, PaneSettings &settings)
+void loadUserTab(const Store &store, int tab, PaneSettings &settings)
 {
     settings.userTabName = store.text(numbered(Keys::UserTabNamePrefix, tab));
     settings.features =
@@ -65,7 +73,7 @@ void loadUserTab(const OpenSettings &store, int tab, PaneSettings &settings)
     settings.nameColumnWidth = store.width(numbered(Keys::FeatureColumnWidthPrefix, tab));
 }
 
-void saveUserTab(QSettings &store, int tab, const PaneSettings &settings)
+void saveUserTab(Store &store, int tab, const PaneSettings &settings)
 {
     store.setValue(numbered(Keys::UserTabNamePrefix, tab), settings.userTabName);
     store.setValue(numbered(Keys::UserTabFeatureNameListPrefix, tab),
@@ -89,9 +97,9 @@ int userTabIndex(const Core::CId &pane)
 
 PaneSettings loadPaneSettings(const Core::CId &pane)
 {
-    const OpenSettings store;
+    const Store store;
     PaneSettings settings;
-    settings.isPolling = store.value(QLatin1String(Keys::Polling), false).toBool();
+    settings.isPolling = store.flag(QLatin1String(Keys::Polling));
     const int tab = userTabIndex(pane);
     if (tab >= 0) {
         loadUserTab(store, tab, settings);
@@ -110,7 +118,7 @@ PaneSettings loadPaneSettings(const Core::CId &pane)
 
 void savePaneSettings(const Core::CId &pane, const PaneSettings &settings)
 {
-    OpenSettings store;
+    Store store;
     store.setValue(QLatin1String(Keys::Polling), settings.isPolling);
     const int tab = userTabIndex(pane);
     if (tab >= 0) {

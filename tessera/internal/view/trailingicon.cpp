@@ -4,15 +4,18 @@
 #include "trailingicon.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QIcon>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPixmap>
+#include <QPixmapCache>
+#include <QStyle>
 
-QAction *addTrailingIcon(QLineEdit *edit, const QIcon &icon, int sevenths)
+namespace {
+
+QPixmap withRoom(const QPixmap &source, int sevenths)
 {
-    const int side = edit->height() - 2;
-    const QPixmap source = icon.pixmap(side, side);
     const QSize size = source.size() / source.devicePixelRatio();
     QPixmap canvas(size * sevenths / 7 * source.devicePixelRatio());
     canvas.setDevicePixelRatio(source.devicePixelRatio());
@@ -22,5 +25,32 @@ QAction *addTrailingIcon(QLineEdit *edit, const QIcon &icon, int sevenths)
     if (!canvas.isNull()) { // null: the style or the resources have no such icon
         QPainter(&canvas).drawPixmap(place, source);
     }
+    return canvas;
+}
+
+} // namespace
+
+// An icon of its own for each edit would leave its pictures in Qt's cache when the edit goes.
+QAction *addTrailingIcon(QLineEdit *edit, const QString &name, const QIcon &icon, int sevenths)
+{
+    const int side = edit->height() - 2;
+    const QString key = QStringLiteral("trailingicon %1 %2 %3 %4")
+                            .arg(name)
+                            .arg(side)
+                            .arg(sevenths)
+                            .arg(qApp->devicePixelRatio());
+    QPixmap canvas;
+    if (!QPixmapCache::find(key, &canvas)) {
+        canvas = withRoom(icon.pixmap(side, side), sevenths);
+        QPixmapCache::insert(key, canvas);
+    }
     return edit->addAction(QIcon(canvas), QLineEdit::TrailingPosition);
+}
+
+QAction *addTrailingCross(QLineEdit *edit)
+{
+    const QStyle *style = QApplication::style();
+    return style ? addTrailingIcon(edit, QStringLiteral("cross ") + style->objectName(),
+                                   style->standardIcon(QStyle::SP_TitleBarCloseButton), 12)
+                 : nullptr;
 }

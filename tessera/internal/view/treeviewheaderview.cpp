@@ -8,7 +8,6 @@
 #include "internal/style/treeviewheaderstyle.h"
 #include "plugin/contract/viewer/stylehelper.h"
 
-#include <QCoreApplication>
 #include <QFontMetrics>
 
 namespace Plugin::Tessera::Internal::View {
@@ -26,8 +25,7 @@ CTreeViewHeaderView::CTreeViewHeaderView(QWidget *parent)
 CTreeViewHeaderView::~CTreeViewHeaderView()
 {
     setStyle(nullptr);
-    m_style->setParent(QCoreApplication::instance()); // where no event loop runs any more
-    m_style->deleteLater();
+    delete m_style; // not later: a proxy style passes that event on, and its base style goes alone
 }
 
 QFont CTreeViewHeaderView::titleFont() const

@@ -25,7 +25,7 @@ public:
 private:
     QFont titleFont() const;
 
-    Style::CTreeViewHeaderStyle *m_style = nullptr; // owned, deleted later
+    Style::CTreeViewHeaderStyle *m_style = nullptr; // owned
 };
 
 } // namespace Plugin::Tessera::Internal::View

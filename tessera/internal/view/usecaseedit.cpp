@@ -12,7 +12,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QEvent>
-#include <QStyle>
 
 namespace Plugin::Tessera::Internal::View {
 
@@ -29,9 +28,8 @@ CUseCaseEdit::CUseCaseEdit(QWidget *parent)
     lineFont.setFamily(QStringLiteral("Segoe UI"));
     lineFont.setPixelSize(CStyleHelper::computePixelFontSize(12));
     setFont(lineFont);
-    if (const QStyle *style = QApplication::style()) {
-        m_crossAction =
-            addTrailingIcon(this, style->standardIcon(QStyle::SP_TitleBarCloseButton), 12);
+    m_crossAction = addTrailingCross(this);
+    if (m_crossAction) {
         m_crossAction->setToolTip(tr("Leave the use case"));
         connect(m_crossAction, &QAction::triggered, this, &CUseCaseEdit::onCrossActionTriggered);
     }

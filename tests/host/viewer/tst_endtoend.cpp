@@ -45,7 +45,7 @@ QString path(const char *name)
     return QLatin1String("@CameraDevice/") + QLatin1String(name);
 }
 
-void drag(QWidget *widget, const QPoint &from, const QPoint &by)
+void drag(QWidget *widget, QPoint from, QPoint by)
 {
     QTest::mousePress(widget, Qt::LeftButton, Qt::NoModifier, from);
     QTest::mouseMove(widget, from + by / 2);
@@ -62,369 +62,344 @@ class EndToEndTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void writesWhatIsTyped_data();
-    void writesWhatIsTyped();
-    void executesACommand();
-    void refusedValueFallsBackToTheCamerasOwn();
-    void showsWhatChangesInTheCamera();
-    void keepsSourcesApart();
-    void unpluggingUnderAnOpenEditorIsSurvived_data();
-    void unpluggingUnderAnOpenEditorIsSurvived();
-    void visibilityLevelHidesRows();
-    void copiesTheFeaturesAsText();
-    void findsWidthsAndListsAgain();
+    void init()
+    {
+        m_guard.begin();
+        m_settings.reset(new QTemporaryDir);
+        QSettings::setDefaultFormat(QSettings::IniFormat);
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings->path());
+        start();
+    }
+
+    void cleanup()
+    {
+        Host::setExceptionReportHook({});
+        m_viewer->shutDown();
+        m_viewer.reset();
+        m_guard.verify();
+    }
+
+    void writesWhatIsTyped_data()
+    {
+        QTest::addColumn<QString>("category");
+        QTest::addColumn<QString>("feature");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QVariant>("expected");
+        const auto row = [](const char *tag, const char *category, const char *feature,
+                            const char *typed, const QVariant &expected) {
+            QTest::newRow(tag) << QString::fromLatin1(category) << path(feature)
+                               << QString::fromLatin1(typed) << expected;
+        };
+        row("integer", "Image Format Control", "Width", "640", 640);
+        row("integer by slider", "Image Format Control", "Width", "<", 16);
+        row("hexadecimal", "Action Control", "ActionGroupKey", "0x1F", 31);
+        row("address", "Transport Layer Control", "GevPersistentIPAddress", "10.0.0.7", 0x0A000007);
+        row("float", "Acquisition Control", "ExposureTime", "1234", 1234.0);
+        row("float by slider", "Analog Control", "BalanceRatio", "<", 0.0);
+        row("boolean", "Image Format Control", "ReverseX", "", true);
+        row("enumeration", "Acquisition Control", "TriggerMode", "On", QStringLiteral("On"));
+        row("string", "Device Control", "DeviceUserID", "Halle 7", QByteArray("Halle 7"));
+    }
+
+    void writesWhatIsTyped()
+    {
+        QFETCH(QString, category);
+        QFETCH(QString, feature);
+        QFETCH(QString, typed);
+        QFETCH(QVariant, expected);
+        click(category);
+        QTRY_VERIFY(editor(feature));
+        type(editor(feature), typed);
+        QTRY_COMPARE(source(gige)->deviceValue(feature), expected);
+    }
+
+    void executesACommand()
+    {
+        click(QStringLiteral("Acquisition Control"));
+        QTRY_VERIFY(editor(path("AcquisitionStart")));
+        type(editor(path("AcquisitionStart")), QString());
+        // A camera that runs locks its image format.
+        QTRY_COMPARE(source(gige)->deviceValue(path("TLParamsLocked")), QVariant(1));
+        click(imageFormat);
+        QTRY_VERIFY(cell(path("Width")).isValid());
+        QTRY_VERIFY(!editor(path("Width")) || !editor(path("Width"))->isEnabled());
+    }
+
+    void refusedValueFallsBackToTheCamerasOwn()
+    {
+        const QString feature = path("DeviceUserID");
+        click(QStringLiteral("Device Control"));
+        const QString before = valueOnScreen(feature);
+        QStringList reports;
+        Host::setExceptionReportHook(
+            [&](const Host::ExceptionReport &report) { reports.append(report.message); });
+        m_guard.expectLogEntry(Core::Logging::ELogLevel::Fault,
+                               QStringLiteral("vantrel.viewer.exceptions"),
+                               QRegularExpression(QStringLiteral("Failed to set a feature value")));
+        source(gige)->faults().failWrites(feature, Simulation::FaultKind::GenericException);
+        QTRY_VERIFY(editor(feature));
+        type(editor(feature), QStringLiteral("refused"));
+        QTRY_COMPARE(reports, QStringList(QStringLiteral("Failed to set a feature value.")));
+        QTRY_COMPARE(valueOnScreen(feature), before);
+    }
+
+    void showsWhatChangesInTheCamera()
+    {
+        const QString feature = path("DeviceUserID");
+        click(QStringLiteral("Device Control"));
+        source(gige)->changeOnDevice(feature, QByteArray("new name"));
+        QTRY_COMPARE(valueOnScreen(feature), QStringLiteral("new name"));
+    }
+
+    void keepsSourcesApart()
+    {
+        SourceSession *session = m_viewer->session();
+        const QString first = rootShown();
+        const QString shared = path("ExposureTime");
+        for (const QString &id : {usb, workbench}) {
+            session->requestOpen(session->indexOf(id));
+            QTRY_COMPARE(session->activeIndex(), session->indexOf(id));
+            click(id == usb ? QStringLiteral("Acquisition Control")
+                            : QStringLiteral("Source Camera"));
+            QTRY_VERIFY(editor(shared));
+            type(editor(shared), id == usb ? QStringLiteral("2000") : QStringLiteral("3000"));
+            QVERIFY(table(basic)->model()->rowCount() > 1);
+        }
+        QCOMPARE(rootShown(), QStringLiteral("Camera"));
+        QTRY_COMPARE(source(workbench)->deviceValue(shared), QVariant(3000.0));
+        QCOMPARE(source(usb)->deviceValue(shared), QVariant(2000.0));
+        QCOMPARE(source(gige)->deviceValue(shared), QVariant(5000.0));
+
+        session->requestActive(session->indexOf(gige));
+        QTRY_COMPARE(rootShown(), first);
+        session->requestClose(session->indexOf(gige));
+        QTRY_VERIFY(!session->isOpen(session->indexOf(gige)));
+        QVERIFY(session->activeIndex() >= 0 && rootShown() != first);
+        for (const QString &id : {usb, workbench}) {
+            session->requestClose(session->indexOf(id));
+        }
+        QTRY_COMPARE(session->activeIndex(), -1);
+        QVERIFY(!tree());
+        QVERIFY(!table(basic));
+    }
+
+    void unpluggingUnderAnOpenEditorIsSurvived_data()
+    {
+        QTest::addColumn<QString>("category");
+        QTest::addColumn<QString>("feature");
+        QTest::newRow("text") << QStringLiteral("Device Control") << path("DeviceUserID");
+        QTest::newRow("open list") << QStringLiteral("Acquisition Control") << path("TriggerMode");
+        QTest::newRow("held slider") << imageFormat << path("Width");
+    }
+
+    void unpluggingUnderAnOpenEditorIsSurvived()
+    {
+        QFETCH(QString, category);
+        QFETCH(QString, feature);
+        click(category);
+        QTRY_VERIFY(editor(feature));
+        const QPointer<QWidget> opened = editor(feature);
+        QWidget *target = opened;
+        if (auto *slider = opened->findChild<QSlider *>()) {
+            target = slider;
+        }
+        QTest::mousePress(target, Qt::LeftButton);
+        QTest::keyClicks(target, QStringLiteral("x"));
+        source(gige)->unplug();
+        m_viewer->session()->requestClose(m_viewer->session()->activeIndex());
+        QTRY_COMPARE(m_viewer->session()->activeIndex(), -1);
+        QTRY_VERIFY(!opened);
+    }
+
+    void visibilityLevelHidesRows()
+    {
+        click(imageFormat);
+        QVERIFY(cell(path("Width")).isValid());
+        QVERIFY(cell(path("SensorWidth")).isValid());
+        m_viewer->window()->visibilityLevel()->setLevel(0);
+        QVERIFY(cell(path("Width")).isValid());
+        QVERIFY(!cell(path("SensorWidth")).isValid());
+        m_viewer->window()->visibilityLevel()->setLevel(2);
+        QVERIFY(cell(path("SensorWidth")).isValid());
+    }
+
+    void copiesTheFeaturesAsText()
+    {
+        QGuiApplication::clipboard()->clear();
+        QTest::keyClick(m_viewer->window(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+        const QStringList lines = QGuiApplication::clipboard()->text().split(QLatin1Char('\n'));
+        QCOMPARE(lines.constFirst(), QStringLiteral("TO-5000G (305174)"));
+        QVERIFY(lines.size() > 250);
+        const QString width =
+            QStringLiteral("\t") + source(gige)->deviceValue(path("Width")).toString();
+        QVERIFY(std::any_of(lines.cbegin(), lines.cend(), [&width](const QString &line) {
+            return line.trimmed().startsWith(QLatin1String("Width ")) && line.endsWith(width);
+        }));
+    }
+
+    void findsWidthsAndListsAgain()
+    {
+        const auto widths = [this] {
+            return QVector<int> {tree()->width(), table()->columnWidth(0),
+                                 table(basic)->columnWidth(0)};
+        };
+        click(imageFormat);
+        auto *splitter = view<QSplitter>(all, "splitter");
+        QWidget *handle = splitter->handle(1);
+        drag(handle, handle->rect().center(), {40, 0});
+        QHeaderView *header = table()->horizontalHeader();
+        drag(header->viewport(), {header->sectionSize(0) - 1, header->height() / 2}, {-35, 0});
+
+        auto *dock =
+            m_viewer->window()->findChild<QDockWidget *>(QStringLiteral("Tessera.Widget.Basic"));
+        dock->raise();
+        header = table(basic)->horizontalHeader();
+        QTRY_VERIFY(header->isVisible());
+        drag(header->viewport(), {header->sectionSize(0) - 1, header->height() / 2}, {30, 0});
+        const QModelIndex second = table(basic)->model()->index(1, 0);
+        QTest::mouseClick(table(basic)->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          table(basic)->visualRect(second).center());
+        QTest::keyClick(table(basic), Qt::Key_Up, Qt::ControlModifier);
+        const QString names = namesShown(basic);
+        QVERIFY2(names.startsWith(QLatin1String("Height Width ")), qPrintable(names));
+        const QVector<int> before = widths();
+
+        m_viewer->session()->closeAll();
+        m_viewer->window()->close();
+        m_viewer->shutDown();
+        start();
+        QCOMPARE(namesShown(basic), names);
+        m_viewer->window()->findChild<QDockWidget *>(QStringLiteral("Tessera.Widget.All"))->raise();
+        QTRY_COMPARE(widths(), before);
+    }
 
 private:
-    void start();
-    template<typename View> View *view(const QString &pane, const char *name) const;
-    QTreeView *tree() const;
-    QTableView *table(const QString &pane = all) const;
-    QString rootShown() const;
-    void click(const QString &category);
-    QModelIndex cell(const QString &feature, const QString &pane = all) const;
-    QString valueOnScreen(const QString &feature) const;
-    QWidget *editor(const QString &feature) const;
-    void type(QWidget *editor, const QString &text);
-    QSharedPointer<Simulation::SimulatedCollection> source(const QString &id) const;
-    QString namesShown(const QString &pane) const;
+    void start()
+    {
+        m_viewer.reset(new ViewerApplication({}));
+        m_viewer->start(QStringLiteral(PLUGIN_FOLDER));
+        // Without a window manager nobody else gives the window the focus.
+        m_viewer->window()->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_viewer->window()));
+    }
+
+    // The one that is in sight: a pane keeps one for each source.
+    template<typename View> View *view(const QString &pane, const char *name) const
+    {
+        const auto *dock =
+            m_viewer->window()->findChild<QDockWidget *>(QLatin1String("Tessera.Widget.") + pane);
+        const auto views = dock->findChildren<View *>(QLatin1String(name));
+        const auto visible = std::find_if(views.cbegin(), views.cend(), [&](const View *candidate) {
+            return candidate->isVisibleTo(dock);
+        });
+        return visible == views.cend() ? nullptr : *visible;
+    }
+
+    QTreeView *tree() const
+    {
+        return view<QTreeView>(all, "treeView");
+    }
+
+    QTableView *table(const QString &pane = all) const
+    {
+        return view<QTableView>(pane, "tesseraTableView");
+    }
+
+    QString rootShown() const
+    {
+        return tree() ? tree()->model()->index(0, 0).data().toString() : QString();
+    }
+
+    // Shows the features of a category in the table.
+    void click(const QString &category)
+    {
+        const QModelIndex index = Tests::findRow(*tree()->model(), category);
+        QVERIFY2(index.isValid(), qPrintable(category));
+        tree()->scrollTo(index);
+        QTest::mouseClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          tree()->visualRect(index).center());
+        QTRY_VERIFY(table()->model()->rowCount() > 0);
+    }
+
+    // The value of a feature in the table, scrolled into view.
+    QModelIndex cell(const QString &feature, const QString &pane = all) const
+    {
+        const QAbstractItemModel &model = *table(pane)->model();
+        const QModelIndexList found =
+            model.match(model.index(0, 0), fullNameRole, feature, 1, Qt::MatchExactly);
+        if (found.isEmpty()) {
+            return QModelIndex();
+        }
+        table(pane)->scrollTo(found.constFirst());
+        return found.constFirst().siblingAtColumn(1);
+    }
+
+    QString valueOnScreen(const QString &feature) const
+    {
+        return cell(feature).data(Qt::EditRole).toString();
+    }
+
+    // The editor of a feature, which a text gets by a double click only.
+    QWidget *editor(const QString &feature) const
+    {
+        const QModelIndex value = cell(feature);
+        if (!table()->indexWidget(value) && value.flags().testFlag(Qt::ItemIsEditable)) {
+            const QPoint place = table()->visualRect(value).center();
+            QTest::mouseClick(table()->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+            QTest::mouseDClick(table()->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        }
+        return table()->indexWidget(value);
+    }
+
+    // Works an editor as a user does: clicks a switch, chooses in a list, types over a text. With
+    // "<" a slider is set to its start.
+    void type(QWidget *editor, const QString &text)
+    {
+        auto *line = qobject_cast<QLineEdit *>(editor);
+        if (!line) {
+            line = editor->findChild<QLineEdit *>();
+        }
+        if (auto *list = qobject_cast<QComboBox *>(editor)) {
+            QTest::mouseClick(list, Qt::LeftButton);
+            QTRY_VERIFY(list->view()->isVisible());
+            QTest::keyClicks(list->view(), text);
+            QTest::keyClick(list->view(), Qt::Key_Return);
+        } else if (text == QLatin1String("<")) {
+            auto *slider = editor->findChild<QSlider *>();
+            slider->setFocus(Qt::TabFocusReason);
+            QTest::keyClick(slider, Qt::Key_Home);
+        } else if (line) {
+            QTest::mouseClick(line, Qt::LeftButton);
+            QTest::keyClick(line, Qt::Key_A, Qt::ControlModifier);
+            QTest::keyClicks(line, text);
+            QTest::keyClick(line, Qt::Key_Return);
+        } else {
+            QTest::mouseClick(editor, Qt::LeftButton, Qt::NoModifier,
+                              QPoint(8, editor->height() / 2));
+        }
+    }
+
+    QSharedPointer<Simulation::SimulatedCollection> source(const QString &id) const
+    {
+        const SourceSession *session = m_viewer->session();
+        return session->source(session->indexOf(id))->collection();
+    }
+
+    QString namesShown(const QString &pane) const
+    {
+        QStringList names;
+        const QAbstractItemModel &model = *table(pane)->model();
+        for (int row = 0; row < model.rowCount(); ++row) {
+            names.append(
+                model.index(row, 0).data(fullNameRole).toString().section(QLatin1Char('/'), 1));
+        }
+        return names.join(QLatin1Char(' '));
+    }
 
     QScopedPointer<QTemporaryDir> m_settings;
     Tests::WarningGuard m_guard;
     QScopedPointer<ViewerApplication> m_viewer;
 };
-
-void EndToEndTest::init()
-{
-    m_guard.begin();
-    m_settings.reset(new QTemporaryDir);
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings->path());
-    start();
-}
-
-void EndToEndTest::start()
-{
-    m_viewer.reset(new ViewerApplication({}));
-    m_viewer->start(QStringLiteral(PLUGIN_FOLDER));
-    // Without a window manager nobody else gives the window the focus.
-    m_viewer->window()->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_viewer->window()));
-}
-
-void EndToEndTest::cleanup()
-{
-    Host::setExceptionReportHook({});
-    m_viewer->shutDown();
-    m_viewer.reset();
-    m_guard.verify();
-}
-
-/// The one that is in sight: a pane keeps one for each source.
-template<typename View> View *EndToEndTest::view(const QString &pane, const char *name) const
-{
-    const auto *dock =
-        m_viewer->window()->findChild<QDockWidget *>(QLatin1String("Tessera.Widget.") + pane);
-    const auto views = dock->findChildren<View *>(QLatin1String(name));
-    const auto visible = std::find_if(views.cbegin(), views.cend(), [&](const View *candidate) {
-        return candidate->isVisibleTo(dock);
-    });
-    return visible == views.cend() ? nullptr : *visible;
-}
-
-QTreeView *EndToEndTest::tree() const
-{
-    return view<QTreeView>(all, "treeView");
-}
-
-QTableView *EndToEndTest::table(const QString &pane) const
-{
-    return view<QTableView>(pane, "tesseraTableView");
-}
-
-QString EndToEndTest::rootShown() const
-{
-    return tree() ? tree()->model()->index(0, 0).data().toString() : QString();
-}
-
-/// Shows the features of a category in the table.
-void EndToEndTest::click(const QString &category)
-{
-    const QModelIndex index = Tests::findRow(*tree()->model(), category);
-    QVERIFY2(index.isValid(), qPrintable(category));
-    tree()->scrollTo(index);
-    QTest::mouseClick(tree()->viewport(), Qt::LeftButton, Qt::NoModifier,
-                      tree()->visualRect(index).center());
-    QTRY_VERIFY(table()->model()->rowCount() > 0);
-}
-
-/// The value of a feature in the table, scrolled into view.
-QModelIndex EndToEndTest::cell(const QString &feature, const QString &pane) const
-{
-    const QAbstractItemModel &model = *table(pane)->model();
-    const QModelIndexList found =
-        model.match(model.index(0, 0), fullNameRole, feature, 1, Qt::MatchExactly);
-    if (found.isEmpty()) {
-        return QModelIndex();
-    }
-    table(pane)->scrollTo(found.constFirst());
-    return found.constFirst().siblingAtColumn(1);
-}
-
-QString EndToEndTest::valueOnScreen(const QString &feature) const
-{
-    return cell(feature).data(Qt::EditRole).toString();
-}
-
-/// The editor of a feature, which a text gets by a double click only.
-QWidget *EndToEndTest::editor(const QString &feature) const
-{
-    const QModelIndex value = cell(feature);
-    if (!table()->indexWidget(value) && value.flags().testFlag(Qt::ItemIsEditable)) {
-        const QPoint place = table()->visualRect(value).center();
-        QTest::mouseClick(table()->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-        QTest::mouseDClick(table()->viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    }
-    return table()->indexWidget(value);
-}
-
-/// Works an editor as a user does: clicks a switch, chooses in a list, types over a text. With
-/// "<" a slider is set to its start.
-void EndToEndTest::type(QWidget *editor, const QString &text)
-{
-    auto *line = qobject_cast<QLineEdit *>(editor);
-    if (!line) {
-        line = editor->findChild<QLineEdit *>();
-    }
-    if (auto *list = qobject_cast<QComboBox *>(editor)) {
-        QTest::mouseClick(list, Qt::LeftButton);
-        QTRY_VERIFY(list->view()->isVisible());
-        QTest::keyClicks(list->view(), text);
-        QTest::keyClick(list->view(), Qt::Key_Return);
-    } else if (text == QLatin1String("<")) {
-        auto *slider = editor->findChild<QSlider *>();
-        slider->setFocus(Qt::TabFocusReason);
-        QTest::keyClick(slider, Qt::Key_Home);
-    } else if (line) {
-        QTest::mouseClick(line, Qt::LeftButton);
-        QTest::keyClick(line, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClicks(line, text);
-        QTest::keyClick(line, Qt::Key_Return);
-    } else {
-        QTest::mouseClick(editor, Qt::LeftButton, Qt::NoModifier, QPoint(8, editor->height() / 2));
-    }
-}
-
-QSharedPointer<Simulation::SimulatedCollection> EndToEndTest::source(const QString &id) const
-{
-    const SourceSession *session = m_viewer->session();
-    return session->source(session->indexOf(id))->collection();
-}
-
-QString EndToEndTest::namesShown(const QString &pane) const
-{
-    QStringList names;
-    const QAbstractItemModel &model = *table(pane)->model();
-    for (int row = 0; row < model.rowCount(); ++row) {
-        names.append(
-            model.index(row, 0).data(fullNameRole).toString().section(QLatin1Char('/'), 1));
-    }
-    return names.join(QLatin1Char(' '));
-}
-
-void EndToEndTest::writesWhatIsTyped_data()
-{
-    QTest::addColumn<QString>("category");
-    QTest::addColumn<QString>("feature");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QVariant>("expected");
-    const auto row = [](const char *tag, const char *category, const char *feature,
-                        const char *typed, const QVariant &expected) {
-        QTest::newRow(tag) << QString::fromLatin1(category) << path(feature)
-                           << QString::fromLatin1(typed) << expected;
-    };
-    row("integer", "Image Format Control", "Width", "640", 640);
-    row("integer by slider", "Image Format Control", "Width", "<", 16);
-    row("hexadecimal", "Action Control", "ActionGroupKey", "0x1F", 31);
-    row("address", "Transport Layer Control", "GevPersistentIPAddress", "10.0.0.7", 0x0A000007);
-    row("float", "Acquisition Control", "ExposureTime", "1234", 1234.0);
-    row("float by slider", "Analog Control", "BalanceRatio", "<", 0.0);
-    row("boolean", "Image Format Control", "ReverseX", "", true);
-    row("enumeration", "Acquisition Control", "TriggerMode", "On", QStringLiteral("On"));
-    row("string", "Device Control", "DeviceUserID", "Halle 7", QByteArray("Halle 7"));
-}
-
-void EndToEndTest::writesWhatIsTyped()
-{
-    QFETCH(QString, category);
-    QFETCH(QString, feature);
-    QFETCH(QString, typed);
-    QFETCH(QVariant, expected);
-    click(category);
-    QTRY_VERIFY(editor(feature));
-    type(editor(feature), typed);
-    QTRY_COMPARE(source(gige)->deviceValue(feature), expected);
-}
-
-void EndToEndTest::executesACommand()
-{
-    click(QStringLiteral("Acquisition Control"));
-    QTRY_VERIFY(editor(path("AcquisitionStart")));
-    type(editor(path("AcquisitionStart")), QString());
-    // A camera that runs locks its image format.
-    QTRY_COMPARE(source(gige)->deviceValue(path("TLParamsLocked")), QVariant(1));
-    click(imageFormat);
-    QTRY_VERIFY(cell(path("Width")).isValid());
-    QTRY_VERIFY(!editor(path("Width")) || !editor(path("Width"))->isEnabled());
-}
-
-void EndToEndTest::refusedValueFallsBackToTheCamerasOwn()
-{
-    const QString feature = path("DeviceUserID");
-    click(QStringLiteral("Device Control"));
-    const QString before = valueOnScreen(feature);
-    QStringList reports;
-    Host::setExceptionReportHook(
-        [&](const Host::ExceptionReport &report) { reports.append(report.message); });
-    m_guard.expectLogEntry(Core::Logging::ELogLevel::Fault,
-                           QStringLiteral("vantrel.viewer.exceptions"),
-                           QRegularExpression(QStringLiteral("Failed to set a feature value")));
-    source(gige)->faults().failWrites(feature, Simulation::FaultKind::GenericException);
-    QTRY_VERIFY(editor(feature));
-    type(editor(feature), QStringLiteral("refused"));
-    QTRY_COMPARE(reports, QStringList(QStringLiteral("Failed to set a feature value.")));
-    QTRY_COMPARE(valueOnScreen(feature), before);
-}
-
-void EndToEndTest::showsWhatChangesInTheCamera()
-{
-    const QString feature = path("DeviceUserID");
-    click(QStringLiteral("Device Control"));
-    source(gige)->changeOnDevice(feature, QByteArray("new name"));
-    QTRY_COMPARE(valueOnScreen(feature), QStringLiteral("new name"));
-}
-
-void EndToEndTest::keepsSourcesApart()
-{
-    SourceSession *session = m_viewer->session();
-    const QString first = rootShown();
-    const QString shared = path("ExposureTime");
-    for (const QString &id : {usb, workbench}) {
-        session->requestOpen(session->indexOf(id));
-        QTRY_COMPARE(session->activeIndex(), session->indexOf(id));
-        click(id == usb ? QStringLiteral("Acquisition Control") : QStringLiteral("Source Camera"));
-        QTRY_VERIFY(editor(shared));
-        type(editor(shared), id == usb ? QStringLiteral("2000") : QStringLiteral("3000"));
-        QVERIFY(table(basic)->model()->rowCount() > 1);
-    }
-    QCOMPARE(rootShown(), QStringLiteral("Camera"));
-    QTRY_COMPARE(source(workbench)->deviceValue(shared), QVariant(3000.0));
-    QCOMPARE(source(usb)->deviceValue(shared), QVariant(2000.0));
-    QCOMPARE(source(gige)->deviceValue(shared), QVariant(5000.0));
-
-    session->requestActive(session->indexOf(gige));
-    QTRY_COMPARE(rootShown(), first);
-    session->requestClose(session->indexOf(gige));
-    QTRY_VERIFY(!session->isOpen(session->indexOf(gige)));
-    QVERIFY(session->activeIndex() >= 0 && rootShown() != first);
-    for (const QString &id : {usb, workbench}) {
-        session->requestClose(session->indexOf(id));
-    }
-    QTRY_COMPARE(session->activeIndex(), -1);
-    QVERIFY(!tree());
-    QVERIFY(!table(basic));
-}
-
-void EndToEndTest::unpluggingUnderAnOpenEditorIsSurvived_data()
-{
-    QTest::addColumn<QString>("category");
-    QTest::addColumn<QString>("feature");
-    QTest::newRow("text") << QStringLiteral("Device Control") << path("DeviceUserID");
-    QTest::newRow("open list") << QStringLiteral("Acquisition Control") << path("TriggerMode");
-    QTest::newRow("held slider") << imageFormat << path("Width");
-}
-
-void EndToEndTest::unpluggingUnderAnOpenEditorIsSurvived()
-{
-    QFETCH(QString, category);
-    QFETCH(QString, feature);
-    click(category);
-    QTRY_VERIFY(editor(feature));
-    const QPointer<QWidget> opened = editor(feature);
-    QWidget *target = opened;
-    if (auto *slider = opened->findChild<QSlider *>()) {
-        target = slider;
-    }
-    QTest::mousePress(target, Qt::LeftButton);
-    QTest::keyClicks(target, QStringLiteral("x"));
-    source(gige)->unplug();
-    m_viewer->session()->requestClose(m_viewer->session()->activeIndex());
-    QTRY_COMPARE(m_viewer->session()->activeIndex(), -1);
-    QTRY_VERIFY(!opened);
-}
-
-void EndToEndTest::visibilityLevelHidesRows()
-{
-    click(imageFormat);
-    QVERIFY(cell(path("Width")).isValid());
-    QVERIFY(cell(path("SensorWidth")).isValid());
-    m_viewer->window()->visibilityLevel()->setLevel(0);
-    QVERIFY(cell(path("Width")).isValid());
-    QVERIFY(!cell(path("SensorWidth")).isValid());
-    m_viewer->window()->visibilityLevel()->setLevel(2);
-    QVERIFY(cell(path("SensorWidth")).isValid());
-}
-
-void EndToEndTest::copiesTheFeaturesAsText()
-{
-    QGuiApplication::clipboard()->clear();
-    QTest::keyClick(m_viewer->window(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-    const QStringList lines = QGuiApplication::clipboard()->text().split(QLatin1Char('\n'));
-    QCOMPARE(lines.constFirst(), QStringLiteral("TO-5000G (305174)"));
-    QVERIFY(lines.size() > 250);
-    const QString width =
-        QStringLiteral("\t") + source(gige)->deviceValue(path("Width")).toString();
-    QVERIFY(std::any_of(lines.cbegin(), lines.cend(), [&width](const QString &line) {
-        return line.trimmed().startsWith(QLatin1String("Width ")) && line.endsWith(width);
-    }));
-}
-
-void EndToEndTest::findsWidthsAndListsAgain()
-{
-    const auto widths = [this] {
-        return QVector<int> {tree()->width(), table()->columnWidth(0),
-                             table(basic)->columnWidth(0)};
-    };
-    click(imageFormat);
-    auto *splitter = view<QSplitter>(all, "splitter");
-    QWidget *handle = splitter->handle(1);
-    drag(handle, handle->rect().center(), {40, 0});
-    QHeaderView *header = table()->horizontalHeader();
-    drag(header->viewport(), {header->sectionSize(0) - 1, header->height() / 2}, {-35, 0});
-
-    auto *dock =
-        m_viewer->window()->findChild<QDockWidget *>(QStringLiteral("Tessera.Widget.Basic"));
-    dock->raise();
-    header = table(basic)->horizontalHeader();
-    QTRY_VERIFY(header->isVisible());
-    drag(header->viewport(), {header->sectionSize(0) - 1, header->height() / 2}, {30, 0});
-    const QModelIndex second = table(basic)->model()->index(1, 0);
-    QTest::mouseClick(table(basic)->viewport(), Qt::LeftButton, Qt::NoModifier,
-                      table(basic)->visualRect(second).center());
-    QTest::keyClick(table(basic), Qt::Key_Up, Qt::ControlModifier);
-    const QString names = namesShown(basic);
-    QVERIFY2(names.startsWith(QLatin1String("Height Width ")), qPrintable(names));
-    const QVector<int> before = widths();
-
-    m_viewer->session()->closeAll();
-    m_viewer->window()->close();
-    m_viewer->shutDown();
-    start();
-    QCOMPARE(namesShown(basic), names);
-    m_viewer->window()->findChild<QDockWidget *>(QStringLiteral("Tessera.Widget.All"))->raise();
-    QTRY_COMPARE(widths(), before);
-}
 
 QTEST_MAIN(EndToEndTest)
 #include "tst_endtoend.moc"

@@ -65,83 +65,57 @@ struct Trap
     Fault fault = Fault::None;
 };
 
-class Command final : public Plugin::AppCore::IActionCommand
-{
-public:
-    explicit Command(Trap *trap)
-        : m_trap(trap)
-    {
-    }
-    void setAttribute(int /*attribute*/) override
-    {
-        m_trap->step("setAttribute");
-    }
-
-private:
-    Trap *m_trap; // borrowed
-};
-
-class Container final : public Plugin::AppCore::IActionContainer
-{
-public:
-    explicit Container(Trap *trap)
-        : m_trap(trap)
-    {
-    }
-    QMenu *menu() const override
-    {
-        return nullptr;
-    }
-    void addAction(Plugin::AppCore::IActionCommand * /*command*/, const CId & /*group*/) override
-    {
-        m_trap->step("addAction");
-    }
-
-private:
-    Trap *m_trap; // borrowed
-};
-
-class Menus final : public Plugin::AppCore::IMenuService
+/// The menu service, and at the same time its only menu and its only command.
+class Menus final : public Plugin::AppCore::IMenuService,
+                    public Plugin::AppCore::IActionContainer,
+                    public Plugin::AppCore::IActionCommand
 {
 public:
     explicit Menus(Trap *trap)
         : IMenuService(nullptr)
         , m_trap(trap)
-        , m_command(trap)
-        , m_container(trap)
     {
     }
     ~Menus() override
     {
-        for (const QPointer<QAction> &action : qAsConst(actions)) {
+        for (const QPointer<QAction> &action : qAsConst(m_actions)) {
             delete action;
         }
     }
-    Plugin::AppCore::IActionCommand *registerAction(
-        QAction *action, const CId & /*id*/,
-        const Core::AppCoreComponents::CContext & /*context*/) override
+    IActionCommand *registerAction(QAction *action, const CId & /*id*/,
+                                   const Core::AppCoreComponents::CContext & /*context*/) override
     {
         m_trap->step("registerAction");
-        actions.append(action);
-        return &m_command;
+        m_actions.append(action);
+        return this;
     }
     void unregisterAction(QAction * /*action*/, const CId &id) override
     {
         unregistered.append(id.toString());
         m_trap->step("unregisterAction");
     }
-    Plugin::AppCore::IActionContainer *actionContainer(const CId & /*id*/) const override
+    IActionContainer *actionContainer(const CId & /*id*/) const override
     {
         m_trap->step("actionContainer");
-        return &m_container;
+        return const_cast<Menus *>(this);
+    }
+    QMenu *menu() const override
+    {
+        return nullptr;
+    }
+    void addAction(IActionCommand * /*command*/, const CId & /*group*/) override
+    {
+        m_trap->step("addAction");
+    }
+    void setAttribute(int /*attribute*/) override
+    {
+        m_trap->step("setAttribute");
     }
     QStringList unregistered;
-    QVector<QPointer<QAction>> actions;
 
 private:
     Trap *m_trap; // borrowed
-    Command m_command;
-    mutable Container m_container;
+    QVector<QPointer<QAction>> m_actions;
 };
 
 class Windows final : public Plugin::AppCore::IWindowService

@@ -36,11 +36,11 @@ SearchEdit::SearchEdit(QWidget *parent)
     Plugin::Tessera::initResources();
     setFont(QApplication::font());
     connect(this, &QLineEdit::textChanged, this, &SearchEdit::onTextChanged);
-    m_lensAction = addTrailingIcon(this, QIcon(QStringLiteral(":/tessera/icons/lens.svg")), 10);
+    m_lensAction = addTrailingIcon(this, QStringLiteral("lens"),
+                                   QIcon(QStringLiteral(":/tessera/icons/lens.svg")), 10);
     m_lensAction->setEnabled(false); // a picture, no button
-    if (const QStyle *style = QApplication::style()) {
-        m_clearAction =
-            addTrailingIcon(this, style->standardIcon(QStyle::SP_TitleBarCloseButton), 12);
+    m_clearAction = addTrailingCross(this);
+    if (m_clearAction) {
         m_clearAction->setToolTip(tr("Clear the search"));
         connect(m_clearAction, &QAction::triggered, this, &QLineEdit::clear);
         m_clearAction->setVisible(false);

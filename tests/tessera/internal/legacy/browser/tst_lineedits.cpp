@@ -191,7 +191,8 @@ private Q_SLOTS:
         red.fill(Qt::red);
         QLineEdit edit;
         edit.resize(100, height);
-        const QIcon icon = addTrailingIcon(&edit, QIcon(red), sevenths)->icon();
+        const QIcon icon =
+            addTrailingIcon(&edit, QStringLiteral("red"), QIcon(red), sevenths)->icon();
         const QImage image = icon.pixmap(100).toImage();
         QCOMPARE(image.size(), QSize(canvas, canvas));
         const int side = height - 2;
