@@ -13,12 +13,15 @@
 #include <host/viewer/viewerapplication.h>
 #include <host/viewer/visibilitylevel.h>
 
+#include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDockWidget>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QProcess>
+#include <QScrollBar>
 #include <QSlider>
 #include <QSplitter>
 #include <QTableView>
@@ -209,6 +212,30 @@ private Q_SLOTS:
         m_viewer->session()->requestClose(m_viewer->session()->activeIndex());
         QTRY_COMPARE(m_viewer->session()->activeIndex(), -1);
         QTRY_VERIFY(!opened);
+    }
+
+    // With the wheel of the pointer itself, which first gives the focus where it may.
+    void theWheelNeedsTheFocus()
+    {
+        const auto turn = [](const QWidget *widget, const char *button) {
+            const QPoint place = widget->mapToGlobal(widget->rect().center());
+            return QProcess::execute(QStringLiteral("xdotool"),
+                                     {QStringLiteral("mousemove"), QString::number(place.x()),
+                                      QString::number(place.y()), QStringLiteral("click"),
+                                      QLatin1String(button)});
+        };
+        click(QStringLiteral("Acquisition Control"));
+        const QString feature = path("ExposureTime");
+        const QVariant before = source(gige)->deviceValue(feature);
+        table()->setFocus();
+        const int scrolled = table()->verticalScrollBar()->value();
+        QCOMPARE(turn(editor(feature)->findChild<QAbstractSpinBox *>(), "5"), 0);
+        QTRY_VERIFY(table()->verticalScrollBar()->value() != scrolled);
+        QCOMPARE(source(gige)->deviceValue(feature), before);
+        auto *box = editor(feature)->findChild<QAbstractSpinBox *>();
+        box->setFocus();
+        QCOMPARE(turn(box, "4"), 0);
+        QTRY_VERIFY(source(gige)->deviceValue(feature) != before);
     }
 
     void visibilityLevelHidesRows()
