@@ -17,6 +17,7 @@
 #include "support/warningguard.h"
 
 #include "host/framework/parameterpool.h"
+#include "host/framework/quick.h"
 #include "host/framework/serviceregistry.h"
 
 #include <QAction>
@@ -215,6 +216,7 @@ private Q_SLOTS:
             m_plugin.reset();
         }
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        Host::deleteQuickWindows();
         m_guard.verify();
     }
 
