@@ -548,7 +548,7 @@ private Q_SLOTS:
         QRandomGenerator random(20);
         QVector<BaseInfoPtr> sources(50);
         BaseInfoPtr active;
-        for (int step = 0; step < 400; ++step) {
+        for (int step = 0; step < 250; ++step) {
             BaseInfoPtr &chosen = sources[random.bounded(sources.size())];
             const int deed = random.bounded(4);
             if (!chosen) {
@@ -584,7 +584,7 @@ private Q_SLOTS:
     {
         const BaseInfoPtr info = addCamera(QStringLiteral("Cam"));
         int objects = 0;
-        for (int round = 0; round < 100; ++round) {
+        for (int round = 0; round < 20; ++round) {
             m_control->unregisterParameterSource(info);
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
             if (round == 3) {

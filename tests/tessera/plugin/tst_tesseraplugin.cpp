@@ -217,6 +217,7 @@ private Q_SLOTS:
         }
         Host::deleteQuickWindows();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        Host::deleteQuickWindows();
         m_guard.verify();
     }
 
