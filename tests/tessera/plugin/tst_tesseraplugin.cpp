@@ -215,7 +215,6 @@ private Q_SLOTS:
             m_plugin->uninitialize(m_registry);
             m_plugin.reset();
         }
-        Host::deleteQuickWindows();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         Host::deleteQuickWindows();
         m_guard.verify();
