@@ -147,7 +147,7 @@ private:
     void takeOutCurrentBrowser();
     void applyUseCases(FeatureTreeWidget *browser);
     void applySettings(FeatureTreeWidget *browser);
-    void connectBrowser(FeatureTreeWidget *browser);
+    void connectBrowser(FeatureTreeWidget *browser) const;
     void disconnectBrowser(FeatureTreeWidget *browser);
     void tellCurrentParameter();
     void showHint();

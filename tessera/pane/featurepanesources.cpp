@@ -233,7 +233,7 @@ void CFeatureTreeWidget::applySettings(FeatureTreeWidget *browser)
 
 // A browser that was taken out when another source went is connected already: run twice, a move
 // would undo itself and a menu show again.
-void CFeatureTreeWidget::connectBrowser(FeatureTreeWidget *browser)
+void CFeatureTreeWidget::connectBrowser(FeatureTreeWidget *browser) const
 {
     connect(browser, &FeatureTreeWidget::visibilityChanged, this,
             &CFeatureTreeWidget::onBrowserVisibilityChanged, Qt::UniqueConnection);

@@ -117,7 +117,7 @@ void CFeatureTableModel::clear()
     endRemoveRows();
 }
 
-void CFeatureTableModel::release(FeatureTreeItem *item)
+void CFeatureTableModel::release(FeatureTreeItem *item) const
 {
     if (auto *feature = qobject_cast<FeatureTreeINodeItem *>(item)) {
         feature->unsubscribe();

@@ -90,7 +90,7 @@ public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): for moc
     void onTimerPoll() override;
 
 private:
-    void release(FeatureTreeItem *item);
+    void release(FeatureTreeItem *item) const;
     int rowOfName(const QString &fullName) const;
 
     FeatureTableRows m_rows;
