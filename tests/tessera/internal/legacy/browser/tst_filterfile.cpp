@@ -60,7 +60,7 @@ private Q_SLOTS:
     // "Shipped_FilterTest_Filter.xml" stands in the resources of this program too.
     void firstFileThatOpensIsTheOnlyOne_data()
     {
-        QTest::addColumn<QString>("role");
+        QTest::addColumn<QString>("roleName");
         QTest::addColumn<QStringList>("files"); // below the folder of the application
         QTest::addColumn<QString>("winner");
         const QString ofModel = QStringLiteral("/Shipped_FilterTest_Filter.xml");
@@ -78,13 +78,13 @@ private Q_SLOTS:
     }
     void firstFileThatOpensIsTheOnlyOne()
     {
-        QFETCH(const QString, role);
+        QFETCH(const QString, roleName);
         QFETCH(const QStringList, files);
         QFETCH(const QString, winner);
         for (const QString &file : files) {
             write(file, rule("Gain", "<Visibility>" + file.toUtf8() + "</Visibility>"));
         }
-        QVERIFY(FilterFile(QStringLiteral("Shipped"), role).apply(*m_camera));
+        QVERIFY(FilterFile(QStringLiteral("Shipped"), roleName).apply(*m_camera));
         QCOMPARE(overrides(), winner + QLatin1String("/ /"));
     }
 
