@@ -45,9 +45,7 @@ using Tests::Fault;
 namespace {
 
 const QString category = QStringLiteral("vantrel.viewer.plugins.tessera");
-const QStringList paneNames {QStringLiteral("All"),   QStringLiteral("Basic"),
-                             QStringLiteral("User0"), QStringLiteral("User1"),
-                             QStringLiteral("User2"), QStringLiteral("User3")};
+constexpr int paneCount = 6;
 const QString missingService = QStringLiteral(
     "At least one service necessary for initializing the Tessera plugin is missing.");
 
@@ -258,9 +256,10 @@ private Q_SLOTS:
             QStringLiteral("add Tessera.Widget.User3 \"Features \u2013 \" 3 0 0")};
         QStringList removed;
         QStringList unregistered;
-        for (const QString &name : paneNames) {
-            removed.append(QStringLiteral("remove Tessera.Widget.") + name);
-            unregistered.append(QStringLiteral("Tessera.Widget.%1.menuItem").arg(name));
+        for (const char *name : {"All", "Basic", "User0", "User1", "User2", "User3"}) {
+            removed.append(QStringLiteral("remove Tessera.Widget.") + QLatin1String(name));
+            unregistered.append(
+                QStringLiteral("Tessera.Widget.%1.menuItem").arg(QLatin1String(name)));
         }
         QVERIFY(dynamic_cast<Core::Plugin::ALocalizedPlugin *>(m_plugin.get()));
         QVERIFY(initialize());
@@ -305,7 +304,7 @@ private Q_SLOTS:
             m_guard.expectLogEntry(ELogLevel::Failure, category, missingService);
         }
         QCOMPARE(initialize(QTest::currentDataTag()), starts);
-        QCOMPARE(m_windows->panes.size(), starts ? paneNames.size() : 0);
+        QCOMPARE(m_windows->panes.size(), starts ? paneCount : 0);
         for (QWidget *pane : qAsConst(m_windows->panes)) {
             QCOMPARE(pane->findChild<QLabel *>()->text().contains(QLatin1String("Workbench")),
                      namesTheWorkbench);
@@ -338,11 +337,11 @@ private Q_SLOTS:
         row("registerAction", 10, false, adding); // menu entry of the last pane
         row("addDockWidget", 6, false, adding);
         row("isDockWidgetClosed", 1, false, QString());
-        for (int pane = 1; pane <= paneNames.size(); ++pane) {
-            const QString settings =
-                QStringLiteral(" FeatureTreeWidget%1Settings")
-                    .arg(QString(paneNames.at(pane - 1))
-                             .remove(QRegularExpression(QStringLiteral("\\d"))));
+        for (int pane = 1; pane <= paneCount; ++pane) {
+            const QString settings = QStringLiteral(" FeatureTreeWidget%1Settings")
+                                         .arg(QLatin1String(pane == 1       ? "All"
+                                                                : pane == 2 ? "Basic"
+                                                                            : "User"));
             row("removeDockWidget", pane, true, QStringLiteral("removing") + settings);
             row("unregisterAction", pane, true, QStringLiteral("deleting") + settings);
         }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QCursor>
 #include <QGuiApplication>
 
 /// Shows the wait cursor as long as it lives.
