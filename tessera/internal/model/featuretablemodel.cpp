@@ -46,16 +46,14 @@ bool markFavorite(FeatureTreeItem &item, const FavoriteNames &names)
     return found;
 }
 
-bool markSearchMatch(FeatureTreeItem &item, const QString &trimmed)
+bool markSearchMatch(FeatureTreeItem &item, const SearchText &searched)
 {
     bool found = false;
     const int count = item.childCount();
     for (int row = 0; row < count; ++row) {
-        found = markSearchMatch(*item.child(row), trimmed) || found;
+        found = markSearchMatch(*item.child(row), searched) || found;
     }
-    found = !trimmed.isEmpty()
-        && (found || item.text().contains(trimmed, Qt::CaseInsensitive)
-            || item.fullName().contains(trimmed, Qt::CaseInsensitive));
+    found = found || searched.isIn(item.text()) || searched.isIn(item.fullName());
     item.setSearchMatch(found);
     return found;
 }
@@ -360,17 +358,17 @@ bool CFeatureTableModel::markFavoritesBelow(FeatureTreeItem *item, const QString
 
 void CFeatureTableModel::markSearchMatches(const QString &text)
 {
-    const QString trimmed = text.trimmed();
+    const SearchText searched(text);
     for (int row = 0; row < m_rows.size(); ++row) {
         if (FeatureTreeItem *item = m_rows.at(row)) {
-            markSearchMatch(*item, trimmed);
+            markSearchMatch(*item, searched);
         }
     }
 }
 
 bool CFeatureTableModel::markSearchBelow(FeatureTreeItem *item, const QString &text)
 {
-    return item && markSearchMatch(*item, text.trimmed());
+    return item && markSearchMatch(*item, SearchText(text));
 }
 
 void CFeatureTableModel::onNodeUpdated(int row, FeatureTreeINodeItem *nodeItem)

@@ -223,6 +223,12 @@ void FeatureTreeModel::loadChildren(FeatureTreeINodeItem *parent,
     endInsertRows();
 }
 
+bool FeatureTreeModel::hasCategoriesBelow(const QModelIndex &parent) const
+{
+    const FeatureTreeItem *item = itemFromIndex(parent);
+    return m_showTreeView || !item || item->depth() < 2;
+}
+
 void FeatureTreeModel::setShowTreeView(bool showTreeView)
 {
     if (showTreeView == m_showTreeView) {
@@ -373,15 +379,15 @@ bool FeatureTreeModel::markFavoritesBelow(FeatureTreeItem *item, const QStringLi
 
 void FeatureTreeModel::markSearchMatches(const QString &text)
 {
-    const QString trimmed = text.trimmed();
+    const SearchText searched(text);
     for (int row = 0; FeatureTreeItem *top = m_rootItem->child(row); ++row) {
-        ::markSearchMatches(*top, trimmed);
+        ::markSearchMatches(*top, searched);
     }
 }
 
 bool FeatureTreeModel::markSearchBelow(FeatureTreeItem *item, const QString &text)
 {
-    return ::markSearchMatches(*item, text.trimmed());
+    return ::markSearchMatches(*item, SearchText(text));
 }
 
 FeatureTreeItem *FeatureTreeModel::itemFromIndex(const QModelIndex &index) const
