@@ -3,12 +3,12 @@
 
 #include "featuretablemodel.h"
 
+#include "internal/legacy/tree/draggedfeature.h"
 #include "internal/legacy/tree/featuretreeinodeitem.h"
 #include "internal/legacy/tree/featuretreemarking.h"
 #include "internal/legacy/tree/itemeditorkind.h"
 #include "plugin/constants/itemroles.h"
 #include "plugin/constants/logcategories.h"
-#include "plugin/constants/mimetypes.h"
 #include "plugin/contract/core/baseexception.h"
 #include "plugin/contract/core/logging.h"
 #include "plugin/contract/genapi/genericexception.h"
@@ -240,12 +240,7 @@ Qt::ItemFlags CFeatureTableModel::flags(const QModelIndex &index) const
 QMimeData *CFeatureTableModel::mimeData(const QModelIndexList &indexes) const
 {
     QMimeData *payload = QAbstractTableModel::mimeData(indexes);
-    const auto *item = qobject_cast<FeatureTreeINodeItem *>(itemFromIndex(indexes.value(0)));
-    if (payload && item && item->parameter()) {
-        const QByteArray path = item->parameter()->fullName().toUtf8();
-        payload->setData(QLatin1String(MimeTypes::ParameterPath),
-                         QByteArray(path.constData())); // up to the first NUL
-    }
+    addParameterPath(payload, itemFromIndex(indexes.value(0)));
     return payload;
 }
 
