@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>AcquisitionFrameRateEnable_Tooltip</source>
-        <translation>Limits the frame rate to the set value. Otherwise the camera runs as fast as exposure, readout and link allow.</translation>
+        <translation>Caps the frame rate at the set value. When disabled, only exposure, readout and link bound the speed.</translation>
     </message>
     <message>
         <source>AcquisitionLineRate_Tooltip</source>
@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>Aperture_Tooltip</source>
-        <translation>Aperture of the lens as f-number. Higher numbers give more depth of field and less light.</translation>
+        <translation>Aperture of the lens as f-number. A larger one deepens the field of focus but admits less light.</translation>
     </message>
     <message>
         <source>ApertureStatus_Tooltip</source>
@@ -453,11 +453,11 @@
     </message>
     <message>
         <source>CounterValue_Tooltip</source>
-        <translation>Present count. Write a number to continue from there.</translation>
+        <translation>Current value of the counter. Writing to it sets the value from which counting continues.</translation>
     </message>
     <message>
         <source>CounterValueAtReset_Tooltip</source>
-        <translation>Count reached at the latest reset.</translation>
+        <translation>Value that the counter had reached when it was last reset.</translation>
     </message>
     <message>
         <source>CvnAchievedFrameRate_Tooltip</source>
@@ -493,7 +493,7 @@
     </message>
     <message>
         <source>CvnContrast_Tooltip</source>
-        <translation>Stretches or compresses the grey values. Positive values make bright areas brighter and dark areas darker.</translation>
+        <translation>Widens or narrows the spread of grey values. Positive values set bright and dark areas further apart.</translation>
     </message>
     <message>
         <source>CvnContrastMode_Tooltip</source>
@@ -729,7 +729,7 @@
     </message>
     <message>
         <source>DeviceFamilyName_Tooltip</source>
-        <translation>Product family of the camera. Cameras of one family share most features.</translation>
+        <translation>Product family of the camera, whose members have most features in common.</translation>
     </message>
     <message>
         <source>DeviceFeaturePersistenceEnd_Tooltip</source>
@@ -805,7 +805,7 @@
     </message>
     <message>
         <source>DeviceReset_Tooltip</source>
-        <translation>Restarts the camera. The connection is lost, and unsaved settings as well.</translation>
+        <translation>Restarts the camera. It disconnects and loses all unsaved settings.</translation>
     </message>
     <message>
         <source>DeviceSFNCVersionMajor_Tooltip</source>
@@ -1037,7 +1037,7 @@
     </message>
     <message>
         <source>FocalPower_Tooltip</source>
-        <translation>Optical power of the liquid lens in dioptres. Higher values focus nearer objects.</translation>
+        <translation>Optical power of the liquid lens in dioptres. Raise it to focus at shorter distances.</translation>
     </message>
     <message>
         <source>FocusAuto_Tooltip</source>
@@ -1093,7 +1093,7 @@
     </message>
     <message>
         <source>Gamma_Tooltip</source>
-        <translation>Exponent of the gamma curve. Values below 1 brighten dark areas, values above 1 darken them.</translation>
+        <translation>Exponent of the gamma curve. Dark areas get brighter below 1 and darker above 1.</translation>
     </message>
     <message>
         <source>GammaEnable_Tooltip</source>
@@ -1237,7 +1237,7 @@
     </message>
     <message>
         <source>GevSCPD_Tooltip</source>
-        <translation>Pause between two stream packets, in ticks. Raise it when several cameras share a network port.</translation>
+        <translation>Gap between consecutive stream packets, in ticks. Widen it when cameras share a network port.</translation>
     </message>
     <message>
         <source>GevSCPHostPort_Tooltip</source>
@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>MultiSlopeExposureGradient_Tooltip</source>
-        <translation>Factor by which the response after the knee point is flatter than before.</translation>
+        <translation>Ratio of the slopes before and after the knee point.</translation>
     </message>
     <message>
         <source>MultiSlopeExposureLimit_Tooltip</source>
@@ -1493,7 +1493,7 @@
     </message>
     <message>
         <source>MultiSlopeKneePointCount_Tooltip</source>
-        <translation>Number of knee points, each of which adds one flatter slope to the response.</translation>
+        <translation>Number of knee points in the response curve. More of them compress highlights in finer stages.</translation>
     </message>
     <message>
         <source>MultiSlopeKneePointSelector_Tooltip</source>
@@ -1545,7 +1545,7 @@
     </message>
     <message>
         <source>OpticControllerStatus_Tooltip</source>
-        <translation>State of the lens controller. The lens obeys only while it is ready.</translation>
+        <translation>State of the lens controller. Lens commands take effect only in the ready state.</translation>
     </message>
     <message>
         <source>OpticControllerTemperature_Tooltip</source>
@@ -1705,7 +1705,7 @@
     </message>
     <message>
         <source>SensorTaps_Tooltip</source>
-        <translation>Number of parallel channels over which the sensor delivers its pixels.</translation>
+        <translation>Number of taps, that is, channels that read out the sensor in parallel.</translation>
     </message>
     <message>
         <source>SensorWidth_Tooltip</source>
@@ -1733,7 +1733,7 @@
     </message>
     <message>
         <source>SequencerSetActive_Tooltip</source>
-        <translation>Set in use at the moment.</translation>
+        <translation>Shows which sequencer set controls the camera now.</translation>
     </message>
     <message>
         <source>SequencerSetLoad_Tooltip</source>
@@ -1833,7 +1833,7 @@
     </message>
     <message>
         <source>Shutter_Tooltip</source>
-        <translation>Closes the shutter of the lens, for instance to take dark references.</translation>
+        <translation>Shuts the lens against light, for instance while a dark reference is taken.</translation>
     </message>
     <message>
         <source>ShutterMode_Tooltip</source>
@@ -1965,7 +1965,7 @@
     </message>
     <message>
         <source>TransferStart_Tooltip</source>
-        <translation>Starts sending the images that wait in the queue.</translation>
+        <translation>Starts the transfer of the queued images.</translation>
     </message>
     <message>
         <source>TransferStatus_Tooltip</source>
@@ -2258,7 +2258,7 @@
     </message>
     <message>
         <source>DoubleCommandsEnable_Tooltip</source>
-        <translation>Sends each command twice, which helps on networks that lose single packets.</translation>
+        <translation>Sends every command in duplicate, to get through on networks that drop single packets.</translation>
     </message>
     <message>
         <source>FormerNamesEnable_Tooltip</source>
@@ -2282,7 +2282,7 @@
     </message>
     <message>
         <source>Statistic_Timeout_Count_Tooltip</source>
-        <translation>Number of answers that came too late. A rising count points to an overloaded network or camera.</translation>
+        <translation>Number of answers that missed their time-out. A rising count points to an overloaded network or camera.</translation>
     </message>
     <message>
         <source>WriteRetries_Tooltip</source>

@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>MultiSlopeExposureGradient_Tooltip</source>
-        <translation>ニーポイント以降の応答の傾きが緩やかになる係数です。</translation>
+        <translation>ニーポイントの前後における応答の傾きの比です。</translation>
     </message>
     <message>
         <source>MultiSlopeExposureLimit_Tooltip</source>

@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>MultiSlopeExposureGradient_Tooltip</source>
-        <translation>니 포인트 이후의 응답 곡선이 이전보다 완만해지는 배율입니다.</translation>
+        <translation>니 포인트 전후의 응답 곡선 기울기 비율입니다.</translation>
     </message>
     <message>
         <source>MultiSlopeExposureLimit_Tooltip</source>

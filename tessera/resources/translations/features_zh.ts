@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>MultiSlopeExposureGradient_Tooltip</source>
-        <translation>拐点之后响应曲线相对之前变平缓的系数。</translation>
+        <translation>拐点前后响应曲线斜率之比。</translation>
     </message>
     <message>
         <source>MultiSlopeExposureLimit_Tooltip</source>
