@@ -7,8 +7,8 @@
 
 namespace Viewer {
 
-/// Translates the viewer's own texts and those of Qt's dialogs and menus for as long as it lives.
-/// What was made before, or is made after, keeps its language. A plug-in brings its own translation.
+/// Translates the viewer's own texts and those of Qt's dialogs and menus for as long as it lives. A
+/// text keeps the language it was made in. A plug-in brings its own translation.
 class ViewerTranslation final
 {
 public:
