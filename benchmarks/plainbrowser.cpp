@@ -9,6 +9,7 @@
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QSlider>
 #include <QSpinBox>
 #include <QTableView>
@@ -72,8 +73,10 @@ void PlainModel::setNames(const QStringList &names)
 void PlainModel::setValue(int row, const QString &value)
 {
     m_values[row] = value;
-    const QModelIndex cell = index(row, 1);
-    Q_EMIT dataChanged(cell, cell);
+    for (const int column : {0, 1}) {
+        const QModelIndex cell = index(row, column);
+        Q_EMIT dataChanged(cell, cell);
+    }
 }
 
 void PlainModel::mark(const QString &text)
@@ -84,17 +87,84 @@ void PlainModel::mark(const QString &text)
     Q_EMIT dataChanged(index(0, 0), index(m_names.size() - 1, 0));
 }
 
+PlainDelegate::PlainDelegate(QVector<QByteArray> editors, QObject *parent)
+    : QStyledItemDelegate(parent)
+    , m_editors(std::move(editors))
+{
+}
+
+QWidget *PlainDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                     const QModelIndex &index) const
+{
+    Q_UNUSED(option)
+    const QByteArray editor = m_editors.value(index.row());
+    if (editor == "CheckBoxEditor") {
+        return new QCheckBox(parent);
+    }
+    if (editor == "EnumEditor") {
+        auto *box = new QComboBox(parent);
+        box->addItems({QStringLiteral("Off"), QStringLiteral("On")});
+        return box;
+    }
+    if (editor == "ToolButtonEditor") {
+        return new QToolButton(parent);
+    }
+    if (editor != "FloatEditor" && !editor.contains("Slider")) {
+        return new QLineEdit(parent);
+    }
+    auto *pair = new QWidget(parent);
+    auto *layout = new QHBoxLayout(pair);
+    layout->setContentsMargins(0, 1, 0, 1);
+    if (editor.startsWith("Float")) {
+        layout->addWidget(new QDoubleSpinBox(pair));
+    } else {
+        layout->addWidget(new QSpinBox(pair));
+    }
+    if (editor.contains("Slider")) {
+        layout->addWidget(new QSlider(Qt::Horizontal, pair));
+    }
+    return pair;
+}
+
+void PlainDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
+{
+    const int number = index.data().toInt();
+    const auto show = [number](QWidget *part) {
+        if (auto *box = qobject_cast<QSpinBox *>(part)) {
+            box->setValue(number);
+        } else if (auto *slider = qobject_cast<QSlider *>(part)) {
+            slider->setValue(number);
+        } else if (auto *real = qobject_cast<QDoubleSpinBox *>(part)) {
+            real->setValue(number);
+        } else if (auto *choice = qobject_cast<QComboBox *>(part)) {
+            choice->setCurrentIndex(number % 2);
+        } else if (auto *button = qobject_cast<QCheckBox *>(part)) {
+            button->setChecked(number % 2 == 1);
+        } else if (auto *line = qobject_cast<QLineEdit *>(part)) {
+            line->setText(QString::number(number));
+        }
+    };
+    show(editor);
+    if (const QLayout *layout = editor->layout()) {
+        for (int part = 0; part < layout->count(); ++part) {
+            show(layout->itemAt(part)->widget());
+        }
+    }
+}
+
 PlainBrowser::PlainBrowser(int features, QVector<QByteArray> editors)
     : m_editors(std::move(editors))
     , m_tree(new QTreeView)
     , m_table(new QTableView)
 {
     auto *layout = new QHBoxLayout(this);
+    setStyleSheet(QStringLiteral("QFrame { background-color: white; }"));
     layout->addWidget(m_tree, 1);
     layout->addWidget(m_table, 2);
     m_tree->setUniformRowHeights(true);
     m_tree->setModel(&m_categories);
     m_table->setModel(&m_rows);
+    m_table->setItemDelegate(new PlainDelegate(m_editors, m_table));
     m_table->verticalHeader()->hide();
     m_table->horizontalHeader()->setStretchLastSection(true);
     m_categories.setNames(numbered(QStringLiteral("Category"), 1, features / perCategory));
@@ -108,41 +178,10 @@ void PlainBrowser::select(int category)
 {
     m_rows.setNames(numbered(QStringLiteral("Feature"), category * perCategory + 1, perCategory));
     for (int row = 0; row < perCategory; ++row) {
-        if (QWidget *widget = makeCellWidget(m_editors.value(row))) {
-            m_table->setIndexWidget(m_rows.index(row, 1), widget);
+        if (!m_editors.value(row).isEmpty()) {
+            m_table->openPersistentEditor(m_rows.index(row, 1));
         }
     }
-}
-
-QWidget *PlainBrowser::makeCellWidget(const QByteArray &editor) const
-{
-    if (editor == "CheckBoxEditor") {
-        return new QCheckBox;
-    }
-    if (editor == "EnumEditor") {
-        auto *box = new QComboBox;
-        box->addItems({QStringLiteral("Off"), QStringLiteral("On")});
-        return box;
-    }
-    if (editor == "ToolButtonEditor") {
-        return new QToolButton;
-    }
-    if (editor == "FloatEditor") {
-        return new QDoubleSpinBox;
-    }
-    if (!editor.contains("Slider")) {
-        return nullptr;
-    }
-    auto *pair = new QWidget;
-    auto *layout = new QHBoxLayout(pair);
-    layout->setContentsMargins(0, 1, 0, 1);
-    if (editor == "FloatSliderEditor") {
-        layout->addWidget(new QDoubleSpinBox);
-    } else {
-        layout->addWidget(new QSpinBox);
-    }
-    layout->addWidget(new QSlider(Qt::Horizontal));
-    return pair;
 }
 
 void PlainBrowser::mark(const QString &text)

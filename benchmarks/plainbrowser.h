@@ -5,6 +5,7 @@
 
 #include <QAbstractTableModel>
 #include <QStringList>
+#include <QStyledItemDelegate>
 #include <QVector>
 #include <QWidget>
 
@@ -34,8 +35,25 @@ private:
     QVector<bool> m_marks;
 };
 
-/// A tree beside a table with Qt's own means, of the size and with the cell widgets of a browser:
-/// the floor that a browser is measured against.
+/// Makes the widgets of a browser's editors from Qt's own, and shows numbers in them.
+class PlainDelegate final : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    /// `editors` are classes of a browser's editors in the order of the rows.
+    explicit PlainDelegate(QVector<QByteArray> editors, QObject *parent = nullptr);
+
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const override;
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override;
+
+private:
+    QVector<QByteArray> m_editors;
+};
+
+/// A tree beside a table with Qt's own means, of the size, in the white frame and with the cell
+/// widgets of a browser, and told of as many changes: the floor that a browser is measured against.
 class PlainBrowser final : public QWidget
 {
     Q_OBJECT
@@ -50,8 +68,6 @@ public:
     void setValue(int row, const QString &value);
 
 private:
-    QWidget *makeCellWidget(const QByteArray &editor) const;
-
     PlainModel m_categories;
     PlainModel m_rows;
     QVector<PlainModel *> m_all; // by parent; what a search goes through

@@ -3,12 +3,12 @@
 
 #include "featuretablemodel.h"
 
+#include "internal/legacy/tree/draggedfeature.h"
 #include "internal/legacy/tree/featuretreeinodeitem.h"
 #include "internal/legacy/tree/featuretreemarking.h"
 #include "internal/legacy/tree/itemeditorkind.h"
 #include "plugin/constants/itemroles.h"
 #include "plugin/constants/logcategories.h"
-#include "plugin/constants/mimetypes.h"
 #include "plugin/contract/core/baseexception.h"
 #include "plugin/contract/core/logging.h"
 #include "plugin/contract/genapi/genericexception.h"
@@ -46,16 +46,14 @@ bool markFavorite(FeatureTreeItem &item, const FavoriteNames &names)
     return found;
 }
 
-bool markSearchMatch(FeatureTreeItem &item, const QString &trimmed)
+bool markSearchMatch(FeatureTreeItem &item, const SearchText &searched)
 {
     bool found = false;
     const int count = item.childCount();
     for (int row = 0; row < count; ++row) {
-        found = markSearchMatch(*item.child(row), trimmed) || found;
+        found = markSearchMatch(*item.child(row), searched) || found;
     }
-    found = !trimmed.isEmpty()
-        && (found || item.text().contains(trimmed, Qt::CaseInsensitive)
-            || item.fullName().contains(trimmed, Qt::CaseInsensitive));
+    found = found || searched.isIn(item.text()) || searched.isIn(item.fullName());
     item.setSearchMatch(found);
     return found;
 }
@@ -242,12 +240,7 @@ Qt::ItemFlags CFeatureTableModel::flags(const QModelIndex &index) const
 QMimeData *CFeatureTableModel::mimeData(const QModelIndexList &indexes) const
 {
     QMimeData *payload = QAbstractTableModel::mimeData(indexes);
-    const auto *item = qobject_cast<FeatureTreeINodeItem *>(itemFromIndex(indexes.value(0)));
-    if (payload && item && item->parameter()) {
-        const QByteArray path = item->parameter()->fullName().toUtf8();
-        payload->setData(QLatin1String(MimeTypes::ParameterPath),
-                         QByteArray(path.constData())); // up to the first NUL
-    }
+    addParameterPath(payload, itemFromIndex(indexes.value(0)));
     return payload;
 }
 
@@ -360,17 +353,17 @@ bool CFeatureTableModel::markFavoritesBelow(FeatureTreeItem *item, const QString
 
 void CFeatureTableModel::markSearchMatches(const QString &text)
 {
-    const QString trimmed = text.trimmed();
+    const SearchText searched(text);
     for (int row = 0; row < m_rows.size(); ++row) {
         if (FeatureTreeItem *item = m_rows.at(row)) {
-            markSearchMatch(*item, trimmed);
+            markSearchMatch(*item, searched);
         }
     }
 }
 
 bool CFeatureTableModel::markSearchBelow(FeatureTreeItem *item, const QString &text)
 {
-    return item && markSearchMatch(*item, text.trimmed());
+    return item && markSearchMatch(*item, SearchText(text));
 }
 
 void CFeatureTableModel::onNodeUpdated(int row, FeatureTreeINodeItem *nodeItem)

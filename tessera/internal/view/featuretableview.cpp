@@ -8,7 +8,6 @@
 #include "internal/legacy/tree/featuretreeproxymodel.h"
 #include "internal/model/featuretablemodel.h"
 #include "plugin/constants/itemroles.h"
-#include "plugin/contract/viewer/stylehelper.h"
 #include "plugin/services/exceptionbarrier.h"
 
 #include <QAbstractButton>
@@ -21,13 +20,6 @@ namespace Plugin::Tessera::Internal::View {
 
 namespace {
 
-// The model that was last given a level, in whichever table. Only compared: it may be gone.
-const QAbstractItemModel *&lastModel()
-{
-    static const QAbstractItemModel *model = nullptr;
-    return model;
-}
-
 bool takesTab(const QWidget &widget)
 {
     return (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.isEnabled() && widget.isVisible()
@@ -39,16 +31,8 @@ bool takesTab(const QWidget &widget)
 CFeatureTableView::CFeatureTableView(QWidget *parent)
     : QTableView(parent)
 {
-    QPalette colors = palette();
-    colors.setBrush(QPalette::Disabled, QPalette::Base,
-                    colors.brush(QPalette::Active, QPalette::Base));
-    setPalette(colors);
-    QFont viewFont = font();
-    viewFont.setFamily(QStringLiteral("Segoe UI"));
-    viewFont.setPixelSize(CStyleHelper::computePixelFontSize(12));
-    setFont(viewFont);
+    dressFeatureView(*this);
     setTabKeyNavigation(false);
-    viewport()->setAttribute(Qt::WA_Hover);
     createModels();
     connect(this, &QWidget::customContextMenuRequested, this,
             &CFeatureTableView::onCustomContextMenuRequested);
@@ -63,14 +47,9 @@ void CFeatureTableView::recreateModels()
 
 void CFeatureTableView::createModels()
 {
-    auto *proxy = new FeatureTreeProxyModel(this);
-    auto *table = new Model::CFeatureTableModel(proxy);
-    proxy->setSourceModel(table);
+    auto *table = new Model::CFeatureTableModel;
+    auto *proxy = makeFeatureProxy(table, &m_filterText, this);
     CFeatureTableView::setModel(proxy);
-    proxy->setDynamicSortFilter(false);
-    proxy->setFilterCaseSensitivity(Qt::CaseInsensitive);
-    proxy->setFilterKeyColumn(1);
-    proxy->setSearchText(&m_filterText);
     m_delegate = new FeatureTreeDelegate(this, proxy, &m_filterText);
     setItemDelegate(m_delegate);
     connect(table, &Model::CFeatureTableModel::orderOfItemsChanged, this,
@@ -93,6 +72,7 @@ void CFeatureTableView::setModel(QAbstractItemModel *newModel)
         connect(newModel, &QAbstractItemModel::modelAboutToBeReset, this,
                 [this] { leaveEditor(focusedValue()); });
     }
+    m_features.setModel(newModel);
     QTableView::setModel(newModel);
     if (newModel) {
         connect(newModel, &QAbstractItemModel::layoutChanged, this,
@@ -121,18 +101,6 @@ QString &CFeatureTableView::filterText()
     return m_filterText;
 }
 
-IFeatureTreeModelExtension *CFeatureTableView::extension() const
-{
-    // The interface is no QObject.
-    return dynamic_cast<IFeatureTreeModelExtension *>(model()); // clazy:exclude=unneeded-cast
-}
-
-FeatureTreeINodeItem *CFeatureTableView::feature(const QModelIndex &index) const
-{
-    const IFeatureTreeModelExtension *items = extension();
-    return items ? qobject_cast<FeatureTreeINodeItem *>(items->itemFromIndex(index)) : nullptr;
-}
-
 void CFeatureTableView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
     Q_EMIT onCurrentChanged(current);
@@ -149,14 +117,7 @@ void CFeatureTableView::onCustomContextMenuRequested(QPoint menuAnchor)
 
 void CFeatureTableView::setVisibility(GenApi::EVisibility visibility)
 {
-    if (visibility == m_visibility && model() == lastModel()) {
-        return;
-    }
-    m_visibility = visibility;
-    lastModel() = model();
-    if (IFeatureTreeModelExtension *items = extension()) {
-        items->pollNodes({});
-    }
+    m_features.setLevel(visibility);
 }
 
 // The selection shows in the name only, not as a bar.
@@ -198,12 +159,12 @@ void CFeatureTableView::updateName(const QModelIndex &name)
 
 void CFeatureTableView::updateValue(const QModelIndex &value)
 {
-    const FeatureTreeItem *item = extension() ? extension()->itemFromIndex(value) : nullptr;
+    const FeatureTreeItem *item = m_features.item(value);
     if (!item) {
         return;
     }
     const QPersistentModelIndex row(value); // a commit on the way may change the rows
-    const bool shown = item->isVisibleAt(m_visibility);
+    const bool shown = item->isVisibleAt(m_features.level());
     if (shown == isRowHidden(value.row())) {
         setRowShown(row, shown);
     }
@@ -216,11 +177,11 @@ void CFeatureTableView::updateValue(const QModelIndex &value)
 // update.
 void CFeatureTableView::updateEditor(const QModelIndex &value)
 {
-    const FeatureTreeINodeItem *item = feature(value);
+    const FeatureTreeINodeItem *item = m_features.feature(value);
     if (!item) {
         return;
     }
-    const bool isUsable = item->accessMode() >= 2 && item->isVisibleAt(m_visibility);
+    const bool isUsable = item->accessMode() >= 2 && item->isVisibleAt(m_features.level());
     QWidget *editor = indexWidget(value);
     if (!editor) {
         if (isUsable) {
@@ -258,16 +219,12 @@ void CFeatureTableView::setRowShown(const QModelIndex &value, bool shown)
 
 bool CFeatureTableView::lacksEditor(const QModelIndex &value) const
 {
-    const FeatureTreeINodeItem *item = feature(value);
-    return item && item->hasInlineEditor() && item->isVisibleAt(m_visibility)
-        && !indexWidget(value);
+    return m_features.wantsEditor(value) && !indexWidget(value);
 }
 
 void CFeatureTableView::openInlineEditor(const QModelIndex &value)
 {
-    FeatureTreeINodeItem *item = feature(value);
-    if (!item || !item->hasInlineEditor() || item->visibility() > m_visibility
-        || item->accessMode() < 2 || !extension()->indexOfItem(item, nullptr, 1).isValid()) {
+    if (!m_features.mayOpenEditor(value)) {
         return;
     }
     openPersistentEditor(value);
@@ -290,7 +247,7 @@ void CFeatureTableView::openInlineEditor(const QModelIndex &value)
 
 void CFeatureTableView::openEditors()
 {
-    const int rows = model() && extension() ? model()->rowCount() : 0;
+    const int rows = m_features.extension() ? model()->rowCount() : 0;
     for (int row = 0; row < rows; ++row) {
         const QModelIndex value = model()->index(row, 1);
         if (lacksEditor(value)) {

@@ -3,14 +3,12 @@
 
 #pragma once
 
-#include "plugin/contract/genapi/visibility.h"
+#include "internal/legacy/tree/viewedfeatures.h"
 
 #include <QPersistentModelIndex>
 #include <QTableView>
 
 class FeatureTreeDelegate;
-class FeatureTreeINodeItem;
-class IFeatureTreeModelExtension;
 
 namespace Plugin::Tessera::Internal::View {
 
@@ -70,8 +68,6 @@ private Q_SLOTS:
 
 private:
     void createModels();
-    IFeatureTreeModelExtension *extension() const;
-    FeatureTreeINodeItem *feature(const QModelIndex &index) const;
 
     void updateName(const QModelIndex &name);
     void updateValue(const QModelIndex &value);
@@ -87,7 +83,7 @@ private:
     void rememberFocusedValue();
     void leaveLostEditor();
 
-    int m_visibility = GenApi::Guru;
+    ViewedFeatures m_features;
     QString m_filterText;
     bool m_isConnectedToTreeView = true;
     FeatureTreeDelegate *m_delegate = nullptr; // by parent

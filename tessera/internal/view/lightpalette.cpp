@@ -25,9 +25,15 @@ QPalette lightPalette()
     return light;
 }
 
+bool isSystemDark()
+{
+    const QPalette system = QApplication::palette();
+    return system.color(QPalette::Button).lightness() < 128
+        || system.color(QPalette::Text).lightness() >= 128;
+}
+
 QString lightStyleColour(QPalette::ColorRole role, const char *name)
 {
-    const bool isDark = QApplication::palette().color(QPalette::Button).lightness() < 128;
-    return isDark ? lightPalette().color(role).name()
-                  : QStringLiteral("palette(%1)").arg(QLatin1String(name));
+    return isSystemDark() ? lightPalette().color(role).name()
+                          : QStringLiteral("palette(%1)").arg(QLatin1String(name));
 }

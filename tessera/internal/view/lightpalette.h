@@ -11,6 +11,9 @@ class QString;
 /// dark text on light grounds. The highlight is the system's.
 QPalette lightPalette();
 
+/// True where text of the system would not show on white.
+bool isSystemDark();
+
 /// How a style sheet names the colour `role` of that palette. Style sheets take "palette(name)"
 /// from the palette of the application, so this is the colour itself on a dark system.
 QString lightStyleColour(QPalette::ColorRole role, const char *name);

@@ -7,7 +7,7 @@
 
 #include "internal/legacy/tree/featuretreeview.h"
 #include "internal/view/featuretableview.h"
-#include "internal/view/lightpalette.h"
+#include "internal/view/lightframe.h"
 #include "internal/view/usecaseedit.h"
 #include "plugin/constants/objectnames.h"
 
@@ -53,7 +53,6 @@ BrowserWidgets::BrowserWidgets(QWidget *browser)
     frame = named(new QFrame(browser), "frame");
     frame->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     frame->setAutoFillBackground(false);
-    frame->setPalette(lightPalette());
     frame->setStyleSheet(QStringLiteral("QFrame {\n    background-color: \"white\";\n}"));
     frame->setFrameShape(QFrame::StyledPanel);
     frame->setFrameShadow(QFrame::Plain);
@@ -62,6 +61,7 @@ BrowserWidgets::BrowserWidgets(QWidget *browser)
     frameLayout->setContentsMargins(11, 11, 11, 11);
     buildTopRow(frameLayout);
     buildViews(frameLayout);
+    new LightFrame(frame);
     mainLayout->addWidget(frame);
     buildBottomRow(mainLayout);
     describe();

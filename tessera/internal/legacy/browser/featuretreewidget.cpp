@@ -3,6 +3,7 @@
 
 #include "featuretreewidget.h"
 
+#include "browserlog.h"
 #include "browsershortcuts.h"
 #include "browserwidgets.h"
 #include "escapepresses.h"
@@ -13,7 +14,6 @@
 #include "usertabrows.h"
 #include "waitcursor.h"
 
-#include "internal/legacy/tree/featuretreeinodeitem.h"
 #include "internal/legacy/tree/featuretreeproxymodel.h"
 #include "internal/legacy/tree/featuretreeview.h"
 #include "internal/model/featuretablemodel.h"
@@ -21,8 +21,6 @@
 #include "internal/view/screenratio.h"
 #include "internal/view/treeviewheaderview.h"
 #include "internal/view/usecaseedit.h"
-#include "plugin/constants/logcategories.h"
-#include "plugin/contract/core/logging.h"
 #include "plugin/contract/viewer/devicebaseinfo.h"
 #include "plugin/contract/viewer/parameterservice.h"
 
@@ -35,7 +33,6 @@
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QSplitter>
 
 #include <algorithm>
@@ -54,13 +51,6 @@ namespace {
 // In pixels at 96 dpi.
 constexpr double categoryColumnWidth = 250.0;
 constexpr double nameColumnWidth = 240.0;
-
-void logEntry(Core::Logging::ELogLevel level, const QString &text)
-{
-    static const quint64 category =
-        Core::Logging::getCatId(Plugin::Tessera::LogCategories::Browser);
-    Core::Logging::createLogEntry(level, category, text);
-}
 
 QStringList texts(const QList<ParameterName> &names)
 {
@@ -288,8 +278,7 @@ QList<FeatureTreeItem *> FeatureTreeWidget::userTabItems(const QStringList &name
     if (m_parameterService) {
         collection = m_parameterService->parameterCollection(m_sourceInfo);
     } else {
-        logEntry(Core::Logging::ELogLevel::Fault,
-                 QStringLiteral("Plugin::CameraPool::IDeviceParameterService not set!"));
+        logBrowserFault(QStringLiteral("Plugin::CameraPool::IDeviceParameterService not set!"));
     }
     return UserTabRows(collection, m_records, *treeProxy(), *tableModel()).make(names);
 }
@@ -362,68 +351,6 @@ void FeatureTreeWidget::refresh()
     treeProxy()->pollNodes({});
 }
 
-void FeatureTreeWidget::onSelectedChanged(const QItemSelection &selected,
-                                          const QItemSelection &deselected)
-{
-    if (m_userTabMode) {
-        return;
-    }
-    rememberScrolling(deselected);
-    const QModelIndexList indexes = selected.indexes();
-    FeatureTreeItem *item =
-        indexes.isEmpty() ? nullptr : treeProxy()->itemFromIndex(indexes.constFirst());
-    QList<FeatureTreeItem *> items;
-    if (item) {
-        m_category = item;
-        item->childCount(); // loads them
-        items = item->findChildren<FeatureTreeItem *>(QString(), Qt::FindDirectChildrenOnly);
-    }
-    setTableItems(items);
-    tableProxy()->markFavorites(useCaseNames(m_ui->useCaseComboBox->currentIndex()));
-    tableProxy()->refreshAll();
-    if (m_category) {
-        m_ui->tableView->verticalScrollBar()->setValue(
-            m_scrollMemory.value(m_category->fullName(), 0));
-    }
-}
-
-void FeatureTreeWidget::rememberScrolling(const QItemSelection &deselected)
-{
-    const QModelIndexList indexes = deselected.indexes();
-    const FeatureTreeItem *item =
-        indexes.isEmpty() ? nullptr : treeProxy()->itemFromIndex(indexes.constFirst());
-    if (item) {
-        m_scrollMemory.insert(item->fullName(), m_ui->tableView->verticalScrollBar()->value());
-    }
-}
-
-void FeatureTreeWidget::onCurrentChanged(const QModelIndex &current)
-{
-    const auto *proxy = qobject_cast<const FeatureTreeProxyModel *>(current.model());
-    if (!proxy) {
-        return;
-    }
-    const FeatureTreeItem *item = proxy->itemFromIndex(current);
-    if (!item) {
-        logEntry(Core::Logging::ELogLevel::Fault,
-                 QStringLiteral("Only the invalid/empty model index is allowed to have an internal "
-                                "pointer of nullptr"));
-        Q_EMIT onCurrentChanged(QSharedPointer<ParameterCollection::IParameter>());
-        return;
-    }
-    const auto *nodeItem = qobject_cast<const FeatureTreeINodeItem *>(item);
-    const auto parameter =
-        nodeItem ? nodeItem->parameter() : QSharedPointer<ParameterCollection::IParameter>();
-    const QString text = parameter ? QString() : item->statusText();
-    // Typing in the search leaves the documentation where it is.
-    if (!m_ui->filterEdit->hasFocus()) {
-        Q_EMIT onCurrentChanged(parameter);
-    }
-    if (!text.isEmpty()) {
-        Q_EMIT onNewText(text);
-    }
-}
-
 void FeatureTreeWidget::setMonitorMode(bool bMonitorMode)
 {
     treeProxy()->setPollByInvalidation(bMonitorMode);
@@ -474,55 +401,6 @@ void FeatureTreeWidget::splitterMoved(int pos, int index)
     if (sizes.size() == 3) {
         Q_EMIT categoryColumnWidthChanged(sizes.constFirst());
     }
-}
-
-void FeatureTreeWidget::contextualMenu(QPoint point)
-{
-    auto menu = QSharedPointer<QMenu>::create();
-    if (m_userTabMode && m_ui->tableView->currentIndex().isValid()) {
-        menu->addAction(m_actionMoveFavouriteUp);
-        menu->addAction(m_actionMoveFavouriteDown);
-        menu->addSeparator();
-    }
-    Q_EMIT contextMenuRequested(point, menu);
-}
-
-void FeatureTreeWidget::onTableSelectionChanged(const QItemSelection &selected,
-                                                const QItemSelection &deselected)
-{
-    Q_UNUSED(deselected)
-    const QModelIndexList indexes = selected.indexes();
-    setMoveActions(indexes.isEmpty() ? QModelIndex() : indexes.constFirst());
-}
-
-void FeatureTreeWidget::setMoveActions(const QModelIndex &index)
-{
-    if (m_userTabMode) {
-        m_actionMoveFavouriteUp->setEnabled(index.isValid() && index.row() >= 1);
-        m_actionMoveFavouriteDown->setEnabled(index.isValid()
-                                              && index.row() < index.model()->rowCount() - 1);
-    }
-}
-
-void FeatureTreeWidget::onFavoriteMoveUp_triggered()
-{
-    moveFavorite(-1);
-}
-
-void FeatureTreeWidget::onFavoriteMoveDown_triggered()
-{
-    moveFavorite(1);
-}
-
-void FeatureTreeWidget::moveFavorite(int rows)
-{
-    const QModelIndex index = m_ui->tableView->currentIndex();
-    if (!index.isValid()) {
-        return;
-    }
-    const QModelIndex neighbour = index.sibling(index.row() + rows, index.column());
-    tableModel()->moveItem(tableProxy()->mapToSource(index), tableProxy()->mapToSource(neighbour),
-                           rows < 0);
 }
 
 bool FeatureTreeWidget::event(QEvent *event)

@@ -20,7 +20,6 @@ DoubleSpinBox::DoubleSpinBox(QWidget *parent, const QString &representation)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     setContentsMargins(1, 0, 1, 0);
-    m_spinBox->setRange(m_minimum, m_maximum);
     m_spinBox->setAccelerated(true);
     if (representation == QLatin1String("PureNumber")) {
         m_spinBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
@@ -41,12 +40,12 @@ DoubleSpinBox::~DoubleSpinBox()
 
 double DoubleSpinBox::minimum() const
 {
-    return m_spinBox->minimum();
+    return m_hasRange ? m_spinBox->minimum() : m_minimum;
 }
 
 double DoubleSpinBox::maximum() const
 {
-    return m_spinBox->maximum();
+    return m_hasRange ? m_spinBox->maximum() : m_maximum;
 }
 
 int DoubleSpinBox::decimals() const
@@ -70,19 +69,38 @@ void DoubleSpinBox::setEditBoxWidth(int width)
     m_spinBox->setMinimumWidth(width);
 }
 
+// Qt writes out the digits of every limit, of which the widest have more than three hundred each:
+// a box gets them only where nobody gives it others first.
+void DoubleSpinBox::ensureRange()
+{
+    if (!m_hasRange) {
+        m_hasRange = true;
+        m_spinBox->setRange(m_minimum, m_maximum);
+    }
+}
+
+void DoubleSpinBox::showEvent(QShowEvent *event)
+{
+    ensureRange();
+    QWidget::showEvent(event);
+}
+
 void DoubleSpinBox::setValue(double value)
 {
+    ensureRange();
     m_spinBox->setValue(value);
 }
 
 void DoubleSpinBox::setMinimum(double minimum)
 {
+    ensureRange();
     m_spinBox->setMinimum(minimum);
     updateToolTip();
 }
 
 void DoubleSpinBox::setMaximum(double maximum)
 {
+    ensureRange();
     m_spinBox->setMaximum(maximum);
     updateToolTip();
 }
@@ -102,6 +120,7 @@ void DoubleSpinBox::setRange(double minimum, double maximum)
 {
     m_minimum = minimum;
     m_maximum = maximum;
+    m_hasRange = true;
     m_spinBox->setRange(minimum, maximum);
     updateToolTip();
 }
@@ -126,6 +145,10 @@ void DoubleSpinBox::setRangeStepAndIncrement(double minRangeLimit, double maxRan
 void DoubleSpinBox::initControls(double minRangeLimit, double maxRangeLimit, double value,
                                  double increment)
 {
+    if (!m_hasRange) { // no limit of the box's own is to stand between it and the value
+        m_hasRange = true;
+        m_spinBox->setRange(std::min(minRangeLimit, value), std::max(maxRangeLimit, value));
+    }
     setValue(value);
     setRangeStepAndIncrement(minRangeLimit, maxRangeLimit, increment);
 }

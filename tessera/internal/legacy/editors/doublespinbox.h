@@ -65,12 +65,17 @@ protected:
     /// Limits and increment as `formatFloat` writes them.
     void showToolTip(int precision, int flags);
 
+    void showEvent(QShowEvent *event) override;
+
 private:
+    void ensureRange();
+
     VantrelQtDoubleSpinBox *m_spinBox; // owned
     SpinBoxEventCatcher *m_eventCatcher; // owned
     double m_increment = 0.0;
     double m_minimum = std::numeric_limits<double>::lowest();
     double m_maximum = std::numeric_limits<double>::max();
+    bool m_hasRange = false; // the spin box has the limits
     int m_editBoxWidth = 0;
     UpdateGate m_updateGate;
 };

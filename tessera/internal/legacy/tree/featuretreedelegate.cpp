@@ -20,7 +20,6 @@
 #include <QLineEdit>
 #include <QScopeGuard>
 #include <QScreen>
-#include <QTextDocumentFragment>
 
 namespace {
 
@@ -117,8 +116,7 @@ QWidget *FeatureTreeDelegate::createEditor(QWidget *parent, const QStyleOptionVi
 void FeatureTreeDelegate::describe(QWidget *editor, const FeatureTreeINodeItem &item)
 {
     editor->setAccessibleName(item.text());
-    const QString toolTip = item.data(0, Qt::ToolTipRole).toString();
-    const QString description = QTextDocumentFragment::fromHtml(toolTip).toPlainText();
+    const QString description = item.plainDescription();
     editor->setAccessibleDescription(description);
     // Of an editor of several parts, the one that has the keyboard is the one that is read out.
     if (QWidget *part = editor->focusProxy()) {

@@ -21,6 +21,8 @@
 #include "plugin/services/exceptionbarrier.h"
 
 #include <QPointer>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <QUuid>
 
 #include <utility>
@@ -37,6 +39,11 @@ void logFault(const QString &text)
     Core::Logging::createLogEntry(Core::Logging::ELogLevel::Fault, category, text);
 }
 
+const QString &shared(const QString &text, const QString &known)
+{
+    return text == known ? known : text;
+}
+
 } // namespace
 
 FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> collection,
@@ -47,7 +54,6 @@ FeatureTreeINodeItem::FeatureTreeINodeItem(QSharedPointer<IParameterCollection> 
     : FeatureTreeItem(text, model, fullName, parentItem, depth)
     , m_collection(std::move(collection))
     , m_parameter(std::move(parameter))
-    , m_translationContext(toolTipContext(fullName))
     , m_isUtf8(isUtf8)
 {
     loadValues();
@@ -100,7 +106,10 @@ void FeatureTreeINodeItem::readProperties()
     m_docuUrl = node->property(QLatin1String(DocuUrl));
     m_displayName = node->property(QLatin1String(DisplayName), m_parameter->name());
     m_shortName = m_parameter->name();
-    cacheDisplayName(m_parameter->fullName(), node->property(QLatin1String(DisplayName)));
+    // One text in memory for all that are alike: there are thousands of items.
+    cacheDisplayName(shared(m_parameter->fullName(), fullName()),
+                     shared(node->property(QLatin1String(DisplayName)), m_displayName));
+    m_shortName = shared(m_shortName, m_displayName);
 }
 
 bool FeatureTreeINodeItem::isUsable() const
@@ -264,7 +273,7 @@ QString FeatureTreeINodeItem::richToolTip() const
 {
     const QString searchText = m_searchText ? *m_searchText : QString();
     const QString title = highlighted(text(), searchText);
-    const QString detail = toolTipDetail(m_translationContext, m_shortName, m_toolTipText);
+    const QString detail = toolTipDetail(toolTipContext(fullName()), m_shortName, m_toolTipText);
     const bool isRoot = m_shortName.contains(QLatin1String("Root"), Qt::CaseInsensitive);
     QString toolTip = isRoot || isCategory()
         ? QStringLiteral("<nobr><b>%1</b></nobr>").arg(title)
@@ -274,6 +283,15 @@ QString FeatureTreeINodeItem::richToolTip() const
         toolTip += QStringLiteral("<br><nobr>%1</nobr>").arg(detail);
     }
     return toolTip;
+}
+
+QString FeatureTreeINodeItem::plainDescription() const
+{
+    const QString detail = toolTipDetail(toolTipContext(fullName()), m_shortName, m_toolTipText);
+    // Reading HTML takes longer than making an editor, and hardly any text is.
+    const bool isRich = Qt::mightBeRichText(detail);
+    return QStringLiteral("%1\n%2").arg(
+        m_shortName, isRich ? QTextDocumentFragment::fromHtml(detail).toPlainText() : detail);
 }
 
 void FeatureTreeINodeItem::setData(int column, const QVariant &value, int role)

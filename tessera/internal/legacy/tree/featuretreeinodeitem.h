@@ -41,6 +41,8 @@ public:
     QSharedPointer<const ParameterCollection::ParameterData> parameterData() const;
     /// Texts are written in UTF-8, else in Latin-1.
     bool isUtf8() const;
+    /// What the tool tip says below its title, without marks and markup, for screen readers.
+    QString plainDescription() const;
     /// The text to highlight in tool tips; it must outlive the item. May be null.
     void setSearchText(const QString *searchText);
     /// True when an editor widget shows the value, false when the row draws it.
@@ -87,7 +89,6 @@ private: // NOLINT(readability-redundant-access-specifiers): ends the slots
     QSharedPointer<ParameterCollection::IParameterCollection> m_collection;
     QSharedPointer<ParameterCollection::IParameter> m_parameter;
     QSharedPointer<const ParameterCollection::ParameterData> m_parameterData;
-    QString m_translationContext;
     const QString *m_searchText = nullptr; // borrowed
     QString m_unit;
     QString m_description;

@@ -111,7 +111,7 @@ QVariant FeatureTreeItem::roleData(int role) const
     case DepthRole:
         return m_depth;
     case RelativePathRole:
-        return relativePath();
+        return relativePath().toString();
     default:
         return {};
     }
@@ -261,11 +261,13 @@ QString FeatureTreeItem::fullName() const
     return m_fullName;
 }
 
-QString FeatureTreeItem::relativePath() const
+QStringView FeatureTreeItem::relativePath() const
 {
-    const bool isTop = m_fullName.contains(QLatin1String("*Root"), Qt::CaseInsensitive);
-    const int end = m_fullName.indexOf(isTop ? QLatin1Char('*') : QLatin1Char('/'));
-    return m_fullName.mid(end + 1);
+    const int star = m_fullName.indexOf(QLatin1Char('*'));
+    const bool isTop =
+        star >= 0 && m_fullName.indexOf(QLatin1String("*Root"), star, Qt::CaseInsensitive) >= 0;
+    const int end = isTop ? star : m_fullName.indexOf(QLatin1Char('/'));
+    return QStringView(m_fullName).mid(end + 1);
 }
 
 int FeatureTreeItem::depth() const

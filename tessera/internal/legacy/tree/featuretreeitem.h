@@ -6,6 +6,7 @@
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <QStringView>
 #include <QVariant>
 
 #include <memory>
@@ -67,7 +68,8 @@ public:
     QString text() const;
     QString fullName() const;
     /// The path without the name of the tree: what follows the first "/", or "Root" for a top item.
-    QString relativePath() const;
+    /// It ends with the item.
+    QStringView relativePath() const;
     int depth() const;
     void setToolTip(const QString &toolTip);
     QString toolTip() const;

@@ -14,17 +14,13 @@
 using namespace ParameterCollection;
 using Plugin::Tessera::runGuarded;
 
-namespace {
-
-void logFault(int line, const QString &text)
+void logTreeFault(int line, const QString &text)
 {
     static const quint64 category =
         Core::Logging::getCatId(Plugin::Tessera::LogCategories::TreeModel);
     Core::Logging::createLogEntry(Core::Logging::ELogLevel::Fault, category,
                                   QStringLiteral("featuretreemodel %1 %2").arg(line).arg(text));
 }
-
-} // namespace
 
 QSharedPointer<IParameter> rootParameter(const QSharedPointer<IParameterCollection> &collection,
                                          const QString &roleName)
@@ -36,8 +32,9 @@ QSharedPointer<IParameter> rootParameter(const QSharedPointer<IParameterCollecti
         }
     });
     if (!parameter || parameter->isNull()) {
-        logFault(__LINE__,
-                 QStringLiteral("could not retrieve %1 /Root from camera node map").arg(roleName));
+        logTreeFault(
+            __LINE__,
+            QStringLiteral("could not retrieve %1 /Root from camera node map").arg(roleName));
         return {};
     }
     return parameter;
@@ -63,7 +60,7 @@ void FeatureTreeLoader::load(FeatureTreeINodeItem *parent, const QString &catego
     QStringList names;
     runGuarded([&] { names = parent->collection()->children(categoryName, 0, true); },
                [&](const Plugin::Tessera::CaughtException &) {
-                   logFault(
+                   logTreeFault(
                        __LINE__,
                        QStringLiteral("could not retrieve the children of %1").arg(categoryName));
                });
@@ -76,7 +73,7 @@ void FeatureTreeLoader::load(FeatureTreeINodeItem *parent, const QString &catego
                 }
             },
             [&](const Plugin::Tessera::CaughtException &) {
-                logFault(__LINE__, QStringLiteral("could not retrieve %1").arg(name));
+                logTreeFault(__LINE__, QStringLiteral("could not retrieve %1").arg(name));
             });
     }
     m_items += items;

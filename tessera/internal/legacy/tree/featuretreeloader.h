@@ -15,6 +15,9 @@ class IParameter;
 class IParameterCollection;
 } // namespace ParameterCollection
 
+/// Logs a fault of the tree, which happened in source line `line`.
+void logTreeFault(int line, const QString &text);
+
 /// The category at the top of the tree that `collection` has attached under `roleName`. Null, with
 /// a log entry, where it cannot be had.
 QSharedPointer<ParameterCollection::IParameter> rootParameter(

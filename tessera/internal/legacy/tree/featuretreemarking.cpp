@@ -20,6 +20,16 @@ bool FavoriteNames::contains(const QString &fullName) const
     return !m_folded.isEmpty() && m_folded.contains(fullName.toCaseFolded());
 }
 
+SearchText::SearchText(const QString &text)
+    : m_matcher(text.trimmed(), Qt::CaseInsensitive)
+{
+}
+
+bool SearchText::isIn(QStringView candidate) const
+{
+    return !m_matcher.pattern().isEmpty() && m_matcher.indexIn(candidate) >= 0;
+}
+
 bool markFavorites(FeatureTreeItem &item, const FavoriteNames &names)
 {
     bool found = false;
@@ -32,16 +42,14 @@ bool markFavorites(FeatureTreeItem &item, const FavoriteNames &names)
     return found;
 }
 
-bool markSearchMatches(FeatureTreeItem &item, const QString &trimmedText)
+bool markSearchMatches(FeatureTreeItem &item, const SearchText &searched)
 {
     bool found = false;
     const int count = item.childCount();
     for (int row = 0; row < count; ++row) {
-        found = markSearchMatches(*item.child(row), trimmedText) || found;
+        found = markSearchMatches(*item.child(row), searched) || found;
     }
-    found = !trimmedText.isEmpty()
-        && (found || item.text().contains(trimmedText, Qt::CaseInsensitive)
-            || item.relativePath().contains(trimmedText, Qt::CaseInsensitive))
+    found = (found || searched.isIn(item.text()) || searched.isIn(item.relativePath()))
         && item.visibility() != GenApi::Invisible && item.accessMode() != 0;
     item.setSearchMatch(found);
     return found;

@@ -6,6 +6,8 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <QStringMatcher>
+#include <QStringView>
 
 class FeatureTreeItem;
 
@@ -21,10 +23,23 @@ private:
     QSet<QString> m_folded;
 };
 
+/// What a user searches for, without the blanks around it; case does not matter.
+class SearchText
+{
+public:
+    explicit SearchText(const QString &text);
+
+    /// True when the text is somewhere in `candidate`. Nothing has the empty text in it.
+    bool isIn(QStringView candidate) const;
+
+private:
+    QStringMatcher m_matcher;
+};
+
 /// Gives each item from `item` down the use-case mark or takes it: features that are among `names`
 /// and the categories above them. True when `item` got it.
 bool markFavorites(FeatureTreeItem &item, const FavoriteNames &names);
 
-/// The same with the search mark: items whose text or relative path contains `trimmedText`, case
-/// aside, and the categories above them. What is invisible or not implemented is never marked.
-bool markSearchMatches(FeatureTreeItem &item, const QString &trimmedText);
+/// The same with the search mark: items whose text or relative path has `searched` in it, and
+/// the categories above them. What is invisible or not implemented is never marked.
+bool markSearchMatches(FeatureTreeItem &item, const SearchText &searched);

@@ -3,34 +3,23 @@
 
 #include "featuretreemodel.h"
 
+#include "draggedfeature.h"
 #include "featuretreeinodeitem.h"
 #include "featuretreeloader.h"
 #include "featuretreemarking.h"
 #include "nameditems.h"
 
-#include "plugin/constants/logcategories.h"
-#include "plugin/constants/mimetypes.h"
-#include "plugin/contract/core/logging.h"
 #include "plugin/contract/parametercollection/parameter.h"
 #include "plugin/contract/parametercollection/parametercollection.h"
 #include "plugin/contract/parametercollection/parameternode.h"
 #include "plugin/services/exceptionbarrier.h"
 
-#include <QMimeData>
 #include <QPointer>
 
 using namespace ParameterCollection;
 using Plugin::Tessera::runGuarded;
 
 namespace {
-
-void logFault(int line, const QString &text)
-{
-    static const quint64 category =
-        Core::Logging::getCatId(Plugin::Tessera::LogCategories::TreeModel);
-    Core::Logging::createLogEntry(Core::Logging::ELogLevel::Fault, category,
-                                  QStringLiteral("featuretreemodel %1 %2").arg(line).arg(text));
-}
 
 void invalidate(const IParameter &parameter)
 {
@@ -106,7 +95,7 @@ QVariant FeatureTreeModel::data(const QModelIndex &index, int role) const
     QVariant answer;
     const bool answered = runGuarded([&] { answer = item->data(index.column(), role); });
     if (!answered && !m_getFailureLogged) {
-        logFault(__LINE__, QStringLiteral("Failed to get a feature value"));
+        logTreeFault(__LINE__, QStringLiteral("Failed to get a feature value"));
     }
     m_getFailureLogged = !answered;
     return answer;
@@ -128,7 +117,7 @@ bool FeatureTreeModel::setData(const QModelIndex &index, const QVariant &value, 
         },
         [&](const Plugin::Tessera::CaughtException &) {
             if (self && m_active) {
-                logFault(__LINE__, QStringLiteral("Failed to set a feature value."));
+                logTreeFault(__LINE__, QStringLiteral("Failed to set a feature value."));
             }
         });
 }
@@ -155,12 +144,7 @@ Qt::ItemFlags FeatureTreeModel::flags(const QModelIndex &index) const
 QMimeData *FeatureTreeModel::mimeData(const QModelIndexList &indexes) const
 {
     QMimeData *payload = QAbstractItemModel::mimeData(indexes);
-    const auto *item = qobject_cast<FeatureTreeINodeItem *>(itemFromIndex(indexes.value(0)));
-    if (payload && item && item->parameter()) {
-        const QByteArray path = item->parameter()->fullName().toUtf8();
-        payload->setData(QLatin1String(Plugin::Tessera::MimeTypes::ParameterPath),
-                         QByteArray(path.constData())); // up to the first NUL
-    }
+    addParameterPath(payload, itemFromIndex(indexes.value(0)));
     return payload;
 }
 
@@ -221,6 +205,12 @@ void FeatureTreeModel::loadChildren(FeatureTreeINodeItem *parent,
         parent->appendChild(item);
     }
     endInsertRows();
+}
+
+bool FeatureTreeModel::hasCategoriesBelow(const QModelIndex &parent) const
+{
+    const FeatureTreeItem *item = itemFromIndex(parent);
+    return m_showTreeView || !item || item->depth() < 2;
 }
 
 void FeatureTreeModel::setShowTreeView(bool showTreeView)
@@ -295,7 +285,8 @@ void FeatureTreeModel::pollNodes(const QStringList &names)
     }
     const QSharedPointer<IParameterCollection> collection = m_collections.constFirst().collection;
     const auto onException = [](const Plugin::Tessera::CaughtException &e) {
-        logFault(__LINE__, QStringLiteral("Failed to update nodes. Message: %1").arg(e.message));
+        logTreeFault(__LINE__,
+                     QStringLiteral("Failed to update nodes. Message: %1").arg(e.message));
     };
     if (names.isEmpty()) {
         runGuarded([&] { collection->endBatchUpdate(); }, onException);
@@ -373,15 +364,15 @@ bool FeatureTreeModel::markFavoritesBelow(FeatureTreeItem *item, const QStringLi
 
 void FeatureTreeModel::markSearchMatches(const QString &text)
 {
-    const QString trimmed = text.trimmed();
+    const SearchText searched(text);
     for (int row = 0; FeatureTreeItem *top = m_rootItem->child(row); ++row) {
-        ::markSearchMatches(*top, trimmed);
+        ::markSearchMatches(*top, searched);
     }
 }
 
 bool FeatureTreeModel::markSearchBelow(FeatureTreeItem *item, const QString &text)
 {
-    return ::markSearchMatches(*item, text.trimmed());
+    return ::markSearchMatches(*item, SearchText(text));
 }
 
 FeatureTreeItem *FeatureTreeModel::itemFromIndex(const QModelIndex &index) const

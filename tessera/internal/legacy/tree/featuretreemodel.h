@@ -81,6 +81,9 @@ public:
     bool markFavoritesBelow(FeatureTreeItem *item, const QStringList &names) override;
     bool markSearchBelow(FeatureTreeItem *item, const QString &text) override;
 
+    /// False where all that can come below `parent` are features, without loading them.
+    bool hasCategoriesBelow(const QModelIndex &parent) const;
+
 public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): for moc
     void clear() override;
     void onNodeUpdated(int row, FeatureTreeINodeItem *pItem) override;

@@ -20,8 +20,19 @@ FeatureTreeProxyModel::~FeatureTreeProxyModel() = default;
 
 IFeatureTreeModelExtension *FeatureTreeProxyModel::source() const
 {
-    // The interface is no QObject.
-    return dynamic_cast<IFeatureTreeModelExtension *>(sourceModel()); // clazy:exclude=unneeded-cast
+    if (m_castModel != sourceModel()) {
+        m_castModel = sourceModel();
+        // The interface is no QObject.
+        m_source =
+            dynamic_cast<IFeatureTreeModelExtension *>(m_castModel); // clazy:exclude=unneeded-cast
+    }
+    return m_source;
+}
+
+void FeatureTreeProxyModel::setSourceModel(QAbstractItemModel *model)
+{
+    m_castModel = nullptr; // a new model may stand where one stood that is gone
+    QSortFilterProxyModel::setSourceModel(model);
 }
 
 bool FeatureTreeProxyModel::isOverTree() const
@@ -63,8 +74,12 @@ bool FeatureTreeProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex &s
         m_shownMatches.clear();
         m_hiddenMatches.clear();
     }
+    const auto *tree = qobject_cast<FeatureTreeModel *>(sourceModel());
+    if (tree && !tree->hasCategoriesBelow(sourceParent)) {
+        return false; // without a look at the features, which are none of a tree's rows
+    }
     return m_addingCollection || rowPasses(sourceRow, sourceParent, Place::OwnRow)
-        || (isOverTree() && childPasses(sourceRow, sourceParent));
+        || (tree && childPasses(sourceRow, sourceParent));
 }
 
 bool FeatureTreeProxyModel::rowPasses(int sourceRow, const QModelIndex &sourceParent,
@@ -112,10 +127,22 @@ bool FeatureTreeProxyModel::childPasses(int sourceRow, const QModelIndex &source
 }
 
 // False where there is no row below. A source that begins to load while this model maps its rows
-// would be mapped twice; the flat source counts as many rows below each row as at the top.
+// would be mapped twice; the flat source counts as many rows below each row as at the top. What
+// holds features only has no row below in a tree: it is loaded when somebody looks at it.
 bool FeatureTreeProxyModel::loadBelow(const QModelIndex &parent) const
 {
-    return !parent.isValid() || (sourceModel() && sourceModel()->hasChildren(mapToSource(parent)));
+    if (!parent.isValid()) {
+        return true;
+    }
+    const QModelIndex category = mapToSource(parent);
+    const auto *tree = qobject_cast<FeatureTreeModel *>(sourceModel());
+    return sourceModel() && (!tree || tree->hasCategoriesBelow(category))
+        && sourceModel()->hasChildren(category);
+}
+
+bool FeatureTreeProxyModel::hasChildren(const QModelIndex &parent) const
+{
+    return loadBelow(parent) && QSortFilterProxyModel::hasChildren(parent);
 }
 
 QModelIndex FeatureTreeProxyModel::index(int row, int column, const QModelIndex &parent) const

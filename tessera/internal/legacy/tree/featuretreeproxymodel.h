@@ -40,9 +40,11 @@ public:
     /// The same for those that only the visibility level kept out.
     int hiddenMatchCount() const;
 
+    void setSourceModel(QAbstractItemModel *model) override;
     QModelIndex index(int row, int column,
                       const QModelIndex &parent = QModelIndex()) const override;
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+    bool hasChildren(const QModelIndex &parent = QModelIndex()) const override;
 
     QModelIndex createItemIndex(FeatureTreeItem *item, int column) override;
     void setPolling(bool polling) override;
@@ -97,6 +99,8 @@ private:
     bool loadBelow(const QModelIndex &parent) const;
     IFeatureTreeModelExtension *source() const;
 
+    mutable QAbstractItemModel *m_castModel = nullptr; // only compared
+    mutable IFeatureTreeModelExtension *m_source = nullptr; // m_castModel, cast once for all
     QStringList m_featureNames;
     FavoriteNames m_foldedFeatureNames;
     mutable QSet<QString> m_shownMatches;

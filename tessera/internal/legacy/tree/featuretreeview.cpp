@@ -17,21 +17,15 @@
 
 namespace {
 
-// The model that was last given a level, in whichever view. Only compared: it may be gone.
-const QAbstractItemModel *&lastModel()
-{
-    static const QAbstractItemModel *model = nullptr;
-    return model;
-}
-
 // A category stays for the sake of what can be seen below it.
-bool isShownAt(const FeatureTreeItem &item, int level)
+bool isShownAt(FeatureTreeItem &item, int level)
 {
     if (item.isVisibleAt(level)) {
         return true;
     }
-    for (int row = 0; const FeatureTreeItem *child = item.child(row); ++row) {
-        if (isShownAt(*child, level)) {
+    const int count = item.childCount();
+    for (int row = 0; row < count; ++row) {
+        if (isShownAt(*item.child(row), level)) {
             return true;
         }
     }
@@ -43,18 +37,12 @@ bool isShownAt(const FeatureTreeItem &item, int level)
 FeatureTreeView::FeatureTreeView(QWidget *parent)
     : QTreeView(parent)
 {
+    dressFeatureView(*this);
     QPalette colors = palette();
-    colors.setBrush(QPalette::Disabled, QPalette::Base,
-                    colors.brush(QPalette::Active, QPalette::Base));
     // The delegate shows the selection in bold.
     colors.setColor(QPalette::Highlight, Qt::transparent);
     setPalette(colors);
-    QFont viewFont = font();
-    viewFont.setFamily(QStringLiteral("Segoe UI"));
-    viewFont.setPixelSize(CStyleHelper::computePixelFontSize(12));
-    setFont(viewFont);
     setUniformRowHeights(true);
-    viewport()->setAttribute(Qt::WA_Hover);
     createModels();
     connect(this, &QTreeView::expanded, this, &FeatureTreeView::onSelfExpanded);
     connect(this, &QWidget::customContextMenuRequested, this,
@@ -70,13 +58,8 @@ void FeatureTreeView::recreateModels()
 
 void FeatureTreeView::createModels()
 {
-    auto *proxy = new FeatureTreeProxyModel(this);
-    proxy->setSourceModel(new FeatureTreeModel(proxy));
+    auto *proxy = makeFeatureProxy(new FeatureTreeModel, &m_searchText, this);
     FeatureTreeView::setModel(proxy);
-    proxy->setDynamicSortFilter(false);
-    proxy->setFilterCaseSensitivity(Qt::CaseInsensitive);
-    proxy->setFilterKeyColumn(1);
-    proxy->setSearchText(&m_searchText);
     m_delegate = new FeatureTreeDelegate(this, proxy, &m_searchText);
     setItemDelegate(m_delegate);
 }
@@ -100,24 +83,13 @@ void FeatureTreeView::setModel(QAbstractItemModel *newModel)
         disconnect(model(), &QAbstractItemModel::modelReset, this,
                    &FeatureTreeView::openAllEditors);
     }
+    m_features.setModel(newModel);
     QTreeView::setModel(newModel);
     if (newModel) {
         connect(newModel, &QAbstractItemModel::layoutChanged, this,
                 &FeatureTreeView::openAllEditors);
         connect(newModel, &QAbstractItemModel::modelReset, this, &FeatureTreeView::openAllEditors);
     }
-}
-
-IFeatureTreeModelExtension *FeatureTreeView::extension() const
-{
-    // The interface is no QObject.
-    return dynamic_cast<IFeatureTreeModelExtension *>(model()); // clazy:exclude=unneeded-cast
-}
-
-FeatureTreeINodeItem *FeatureTreeView::feature(const QModelIndex &index) const
-{
-    const IFeatureTreeModelExtension *items = extension();
-    return items ? qobject_cast<FeatureTreeINodeItem *>(items->itemFromIndex(index)) : nullptr;
 }
 
 void FeatureTreeView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
@@ -136,14 +108,7 @@ void FeatureTreeView::onCustomContextMenuRequested(QPoint menuAnchor)
 
 void FeatureTreeView::setVisibility(GenApi::EVisibility visibility)
 {
-    if (visibility == m_visibility && model() == lastModel()) {
-        return;
-    }
-    m_visibility = visibility;
-    lastModel() = model();
-    if (IFeatureTreeModelExtension *items = extension()) {
-        items->pollNodes({});
-    }
+    m_features.setLevel(visibility);
 }
 
 void FeatureTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
@@ -170,11 +135,11 @@ void FeatureTreeView::updateName(const QModelIndex &name)
 
 void FeatureTreeView::updateValue(const QModelIndex &value)
 {
-    const FeatureTreeItem *item = extension() ? extension()->itemFromIndex(value) : nullptr;
+    FeatureTreeItem *item = m_features.item(value);
     if (!item) {
         return;
     }
-    const bool shown = isShownAt(*item, m_visibility);
+    const bool shown = isShownAt(*item, m_features.level());
     const bool wasHidden = isRowHidden(value.row(), value.parent());
     if (!shown && wasHidden) {
         return;
@@ -192,7 +157,7 @@ void FeatureTreeView::updateValue(const QModelIndex &value)
 // update.
 void FeatureTreeView::updateEditor(const QModelIndex &value)
 {
-    const FeatureTreeINodeItem *item = feature(value);
+    const FeatureTreeINodeItem *item = m_features.feature(value);
     if (!item) {
         return;
     }
@@ -233,7 +198,7 @@ void FeatureTreeView::setRowShown(const QModelIndex &value, bool shown)
 void FeatureTreeView::leaveEditor(const QModelIndex &value)
 {
     QWidget *editor = indexWidget(value);
-    const FeatureTreeINodeItem *item = feature(value);
+    const FeatureTreeINodeItem *item = m_features.feature(value);
     const QWidget *focus = QApplication::focusWidget();
     if (!editor || !item) {
         return;
@@ -253,14 +218,14 @@ void FeatureTreeView::onSelfExpanded(QModelIndex index)
 
 void FeatureTreeView::syncRows(const QModelIndex &parent)
 {
-    if (!extension() || !isExpanded(parent)) {
+    if (!m_features.extension() || !isExpanded(parent)) {
         return;
     }
     const QPersistentModelIndex category(parent);
     for (int row = 0; row < model()->rowCount(category); ++row) {
         const QModelIndex value = model()->index(row, 1, category);
-        const FeatureTreeItem *item = extension()->itemFromIndex(value);
-        const bool shown = item && isShownAt(*item, m_visibility);
+        FeatureTreeItem *item = m_features.item(value);
+        const bool shown = item && isShownAt(*item, m_features.level());
         if (shown == isRowHidden(row, category)) {
             setRowShown(value, shown);
         }
@@ -273,7 +238,7 @@ void FeatureTreeView::syncRows(const QModelIndex &parent)
 
 void FeatureTreeView::openEditors(const QModelIndex &parent)
 {
-    if (!extension() || !isExpanded(parent)) {
+    if (!m_features.extension() || !isExpanded(parent)) {
         return;
     }
     const int rows = model()->rowCount(parent);
@@ -304,17 +269,12 @@ void FeatureTreeView::openAllEditors()
 
 bool FeatureTreeView::lacksEditor(const QModelIndex &value) const
 {
-    const FeatureTreeINodeItem *item = feature(value);
-    return item && item->hasInlineEditor() && item->isVisibleAt(m_visibility)
-        && !indexWidget(value);
+    return m_features.wantsEditor(value) && !indexWidget(value);
 }
 
-// The search for the item comes last, as it goes over the whole tree.
 void FeatureTreeView::openInlineEditor(const QModelIndex &value)
 {
-    FeatureTreeINodeItem *item = feature(value);
-    if (item && item->hasInlineEditor() && item->visibility() <= m_visibility
-        && item->accessMode() >= 2 && extension()->indexOfItem(item, nullptr, 1).isValid()) {
+    if (m_features.mayOpenEditor(value)) {
         openPersistentEditor(value);
     }
 }

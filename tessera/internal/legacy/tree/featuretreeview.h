@@ -3,13 +3,11 @@
 
 #pragma once
 
-#include "plugin/contract/genapi/visibility.h"
+#include "viewedfeatures.h"
 
 #include <QTreeView>
 
 class FeatureTreeDelegate;
-class FeatureTreeINodeItem;
-class IFeatureTreeModelExtension;
 
 /// The tree of a browser. Makes its own proxy, model and delegate, keeps rows and open editors in
 /// step with what can be seen and used, and tells about the current row.
@@ -55,8 +53,6 @@ private Q_SLOTS:
 
 private:
     void createModels();
-    IFeatureTreeModelExtension *extension() const;
-    FeatureTreeINodeItem *feature(const QModelIndex &index) const;
 
     void updateName(const QModelIndex &name);
     void updateValue(const QModelIndex &value);
@@ -72,6 +68,6 @@ private:
     void openInlineEditor(const QModelIndex &value);
 
     QString m_searchText;
+    ViewedFeatures m_features;
     FeatureTreeDelegate *m_delegate = nullptr; // by parent
-    int m_visibility = GenApi::Guru;
 };

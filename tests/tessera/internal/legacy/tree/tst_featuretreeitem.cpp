@@ -124,7 +124,7 @@ private Q_SLOTS:
         };
         for (auto path = relativePaths.cbegin(); path != relativePaths.cend(); ++path) {
             const FeatureTreeItem item(QString(), nullptr, path.key(), nullptr, 1);
-            QCOMPARE(item.relativePath(), path.value());
+            QCOMPARE(item.relativePath().toString(), path.value());
         }
     }
 

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 Tessera contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "plugin/contract/genapi/visibility.h"
+
+#include <QPointer>
+
+class FeatureTreeINodeItem;
+class FeatureTreeItem;
+class FeatureTreeProxyModel;
+class IFeatureTreeModelExtension;
+class QAbstractItemModel;
+class QAbstractItemView;
+class QModelIndex;
+class QString;
+
+/// What tree and table ask of the model that they show, and the level at which they show it.
+class ViewedFeatures final
+{
+public:
+    /// Takes note of the model that a view now has. May be null.
+    void setModel(QAbstractItemModel *model);
+
+    /// The model as one of features; null where it is none, or gone.
+    IFeatureTreeModelExtension *extension() const;
+    FeatureTreeItem *item(const QModelIndex &index) const;
+    /// Null for a row that is not of a parameter.
+    FeatureTreeINodeItem *feature(const QModelIndex &index) const;
+
+    int level() const;
+    /// Has the model read what changed, unless neither the level nor the model is another than the
+    /// last time, in whichever view.
+    void setLevel(GenApi::EVisibility level);
+
+    /// True for a cell whose editor stays open while it can be seen, whether it can be used or not.
+    bool wantsEditor(const QModelIndex &value) const;
+    /// True for a cell whose editor can be opened now.
+    bool mayOpenEditor(const QModelIndex &value) const;
+
+private:
+    QPointer<QAbstractItemModel> m_model; // borrowed
+    IFeatureTreeModelExtension *m_extension = nullptr; // borrowed, lives as long as m_model
+    int m_level = GenApi::Guru;
+};
+
+/// Gives a view of features its font and colours.
+void dressFeatureView(QAbstractItemView &view);
+
+/// A proxy over `source`, whose parent it becomes, that marks what `searchText` is in. `searchText`
+/// has to outlive both.
+FeatureTreeProxyModel *makeFeatureProxy(QAbstractItemModel *source, const QString *searchText,
+                                        QObject *parent);
