@@ -147,7 +147,19 @@ void CFeatureTableView::dataChanged(const QModelIndex &topLeft, const QModelInde
         }
     }
     executeDelayedItemsLayout();
+    if (m_features.isRepeating(topLeft)) {
+        refreshEditor(topLeft);
+        return;
+    }
     QTableView::dataChanged(topLeft, bottomRight, roles);
+}
+
+// What the base does, but for the painting: polling must not flicker.
+void CFeatureTableView::refreshEditor(const QModelIndex &cell)
+{
+    if (QWidget *editor = indexWidget(cell)) {
+        itemDelegate(cell)->setEditorData(editor, cell);
+    }
 }
 
 void CFeatureTableView::updateName(const QModelIndex &name)

@@ -10,6 +10,7 @@
 #include "itemeditorkind.h"
 #include "parameterproperties.h"
 #include "rangerepair.h"
+#include "snapshotcomparison.h"
 
 #include "plugin/constants/itemroles.h"
 #include "plugin/constants/logcategories.h"
@@ -145,6 +146,11 @@ bool FeatureTreeINodeItem::isUtf8() const
 void FeatureTreeINodeItem::setSearchText(const QString *searchText)
 {
     m_searchText = searchText;
+}
+
+bool FeatureTreeINodeItem::isRepeating() const
+{
+    return m_isRepeating;
 }
 
 bool FeatureTreeINodeItem::hasInlineEditor() const
@@ -401,8 +407,15 @@ void FeatureTreeINodeItem::onParameterDataChanged(
     if (repairRange(ptrParameterData)) {
         return;
     }
+    const bool isSame = m_hasSnapshot && tellTheSame(*m_parameterData, *ptrParameterData);
+    m_hasSnapshot = true;
     m_parameterData = ptrParameterData;
+    const QPointer<FeatureTreeINodeItem> self(this);
+    m_isRepeating = isSame;
     Q_EMIT nodeUpdated(row(), this);
+    if (self) {
+        m_isRepeating = false;
+    }
 }
 
 // A feature whose limits moved under its value is pulled in, which is meant; the write makes the

@@ -39,6 +39,9 @@ public:
     QSharedPointer<ParameterCollection::IParameter> parameter() const;
     /// The last snapshot.
     QSharedPointer<const ParameterCollection::ParameterData> parameterData() const;
+    /// True while `nodeUpdated` tells of a snapshot that says the same as the one before. An editor
+    /// may show something else, but nothing has to be painted.
+    bool isRepeating() const;
     /// Texts are written in UTF-8, else in Latin-1.
     bool isUtf8() const;
     /// What the tool tip says below its title, without marks and markup, for screen readers.
@@ -101,4 +104,6 @@ private: // NOLINT(readability-redundant-access-specifiers): ends the slots
     bool m_isUtf8 = false;
     bool m_wasImplemented = false;
     bool m_isRepairing = false;
+    bool m_hasSnapshot = false; // of the camera's, not the first one
+    bool m_isRepeating = false;
 };

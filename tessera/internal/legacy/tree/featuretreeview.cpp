@@ -122,7 +122,19 @@ void FeatureTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex 
         }
     }
     executeDelayedItemsLayout();
+    if (m_features.isRepeating(topLeft)) {
+        refreshEditor(topLeft);
+        return;
+    }
     QTreeView::dataChanged(topLeft, bottomRight, roles);
+}
+
+// What the base does, but for the painting: polling must not flicker.
+void FeatureTreeView::refreshEditor(const QModelIndex &cell)
+{
+    if (QWidget *editor = indexWidget(cell)) {
+        itemDelegate(cell)->setEditorData(editor, cell);
+    }
 }
 
 void FeatureTreeView::updateName(const QModelIndex &name)

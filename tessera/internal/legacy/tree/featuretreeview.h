@@ -54,6 +54,7 @@ private Q_SLOTS:
 private:
     void createModels();
 
+    void refreshEditor(const QModelIndex &cell);
     void updateName(const QModelIndex &name);
     void updateValue(const QModelIndex &value);
     void updateEditor(const QModelIndex &value);

@@ -43,6 +43,12 @@ FeatureTreeINodeItem *ViewedFeatures::feature(const QModelIndex &index) const
     return qobject_cast<FeatureTreeINodeItem *>(item(index));
 }
 
+bool ViewedFeatures::isRepeating(const QModelIndex &index) const
+{
+    const FeatureTreeINodeItem *shown = feature(index);
+    return shown && shown->isRepeating();
+}
+
 int ViewedFeatures::level() const
 {
     return m_level;

@@ -29,6 +29,9 @@ public:
     /// Null for a row that is not of a parameter.
     FeatureTreeINodeItem *feature(const QModelIndex &index) const;
 
+    /// True while the model tells of a snapshot that says the same as the one before.
+    bool isRepeating(const QModelIndex &index) const;
+
     int level() const;
     /// Has the model read what changed, unless neither the level nor the model is another than the
     /// last time, in whichever view.
