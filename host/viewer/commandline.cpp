@@ -5,8 +5,6 @@
 
 #include <host/framework/languagechoice.h>
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <iterator>
 
@@ -30,18 +28,12 @@ QStringList languageCodes()
     return codes;
 }
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("Viewer::CommandLine", source);
-}
-
 int indexOfName(const QStringList &names, const QString &name, const QString &option)
 {
     const int index = names.indexOf(name);
     if (index < 0) {
-        throw CommandLineError(
-            text(QT_TRANSLATE_NOOP("Viewer::CommandLine", "--%1 does not know \"%2\"; it takes %3"))
-                .arg(option, name, names.join(QLatin1String(", "))));
+        throw CommandLineError(QStringLiteral("--%1 does not know \"%2\"; it takes %3")
+                                   .arg(option, name, names.join(QLatin1String(", "))));
     }
     return index;
 }
@@ -56,44 +48,28 @@ CommandLineError::CommandLineError(const QString &message)
 CommandLine::CommandLine()
 {
     const auto option = [this](const char *name, const char *value, const char *description) {
-        m_parser.addOption(
-            QCommandLineOption(QLatin1String(name), text(description), QString::fromLatin1(value)));
+        m_parser.addOption(QCommandLineOption(QLatin1String(name), QLatin1String(description),
+                                              QString::fromLatin1(value)));
     };
-    m_parser.setApplicationDescription(text(QT_TRANSLATE_NOOP(
-        "Viewer::CommandLine", "Shows and edits the features of machine-vision cameras.")));
+    m_parser.setApplicationDescription(
+        QStringLiteral("Shows and edits the features of machine-vision cameras."));
     m_parser.addHelpOption();
     m_parser.addVersionOption();
     option("source", "ID",
-           QT_TRANSLATE_NOOP("Viewer::CommandLine",
-                             "Open this source: simulated:gige, simulated:usb or "
-                             "simulated:workbench. May be given several times; the last one is "
-                             "the active one. Default: simulated:gige."));
-    option("pane", "NAME",
-           QT_TRANSLATE_NOOP("Viewer::CommandLine",
-                             "Show this pane: All, Basic, User0, User1, User2 or User3."));
-    option("select", "PATH",
-           QT_TRANSLATE_NOOP("Viewer::CommandLine",
-                             "Select a category or feature, such as @CameraDevice/Gain."));
-    option("search", "TEXT",
-           QT_TRANSLATE_NOOP("Viewer::CommandLine", "Put TEXT into the search line."));
-    option("use-case", "NAME",
-           QT_TRANSLATE_NOOP("Viewer::CommandLine", "Choose a use case by its name."));
-    option("visibility", "LEVEL",
-           QT_TRANSLATE_NOOP("Viewer::CommandLine",
-                             "Show features up to this level: Beginner, Expert, Guru or All."));
-    option("language", "CODE",
-           QT_TRANSLATE_NOOP("Viewer::CommandLine",
-                             "Use this language for this run: en, ja, zh or ko."));
+           "Open this source: simulated:gige, simulated:usb or "
+           "simulated:workbench. May be given several times; the last one is "
+           "the active one. Default: simulated:gige.");
+    option("pane", "NAME", "Show this pane: All, Basic, User0, User1, User2 or User3.");
+    option("select", "PATH", "Select a category or feature, such as @CameraDevice/Gain.");
+    option("search", "TEXT", "Put TEXT into the search line.");
+    option("use-case", "NAME", "Choose a use case by its name.");
+    option("visibility", "LEVEL", "Show features up to this level: Beginner, Expert, Guru or All.");
+    option("language", "CODE", "Use this language for this run: en, ja, zh or ko.");
     option("print-features", "",
-           QT_TRANSLATE_NOOP("Viewer::CommandLine",
-                             "Print all features of the active source with their values, then "
-                             "end."));
-    option("screenshot", "FILE",
-           QT_TRANSLATE_NOOP("Viewer::CommandLine",
-                             "Save a picture of the window once it is painted, then end."));
-    option("settings", "DIR",
-           QT_TRANSLATE_NOOP("Viewer::CommandLine",
-                             "Keep settings in this folder instead of the user's."));
+           "Print all features of the active source with their values, then "
+           "end.");
+    option("screenshot", "FILE", "Save a picture of the window once it is painted, then end.");
+    option("settings", "DIR", "Keep settings in this folder instead of the user's.");
 }
 
 Options CommandLine::parse(const QStringList &arguments)
@@ -102,9 +78,8 @@ Options CommandLine::parse(const QStringList &arguments)
         throw CommandLineError(m_parser.errorText());
     }
     if (!m_parser.positionalArguments().isEmpty()) {
-        throw CommandLineError(
-            text(QT_TRANSLATE_NOOP("Viewer::CommandLine", "superfluous argument \"%1\""))
-                .arg(m_parser.positionalArguments().constFirst()));
+        throw CommandLineError(QStringLiteral("superfluous argument \"%1\"")
+                                   .arg(m_parser.positionalArguments().constFirst()));
     }
     const auto value = [this](const char *name) { return m_parser.value(QLatin1String(name)); };
 
@@ -126,8 +101,7 @@ Options CommandLine::parse(const QStringList &arguments)
         indexOfName(languageCodes(), options.language, QStringLiteral("language"));
     }
     if (m_parser.isSet(QStringLiteral("screenshot")) && options.screenshot.isEmpty()) {
-        throw CommandLineError(
-            text(QT_TRANSLATE_NOOP("Viewer::CommandLine", "--screenshot needs a file name")));
+        throw CommandLineError(QStringLiteral("--screenshot needs a file name"));
     }
     return options;
 }

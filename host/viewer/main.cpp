@@ -4,6 +4,7 @@
 #include "commandline.h"
 #include "qtmessages.h"
 #include "viewerapplication.h"
+#include "viewertranslation.h"
 
 #include <host/framework/guardedcall.h>
 #include <host/framework/languagechoice.h>
@@ -12,11 +13,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QSettings>
 #include <QTextStream>
-#include <QTranslator>
 
 #include <algorithm>
 #include <cstdlib>
@@ -71,21 +69,12 @@ void useSettingsFolder(const QString &folder)
     }
 }
 
-void installQtTranslation(const QString &language)
-{
-    auto *translator = new QTranslator(qApp);
-    if (translator->load(QLocale(language), QStringLiteral("qtbase"), QStringLiteral("_"),
-                         QLibraryInfo::location(QLibraryInfo::TranslationsPath))) {
-        QCoreApplication::installTranslator(translator);
-    }
-}
-
 int run(const Viewer::Options &options)
 {
     if (!options.language.isEmpty()) {
         Host::LanguageChoice::setOverride(options.language);
     }
-    installQtTranslation(Host::LanguageChoice::current());
+    const Viewer::ViewerTranslation translation(Host::LanguageChoice::current());
     Host::prepareQuick();
 
     Viewer::ViewerApplication viewer(options);

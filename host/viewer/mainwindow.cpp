@@ -186,7 +186,8 @@ void MainWindow::makeMenus()
         Core::CId("VantrelViewer.Group.Camera.Application"));
 
     QMenu *view = menuBar()->addMenu(tr("&View"));
-    view->addSection(tr("Visibility Level"));
+    // No section: a style makes one as high as the font, and other scripts are higher.
+    view->addAction(tr("Visibility Level"))->setEnabled(false);
     view->addActions(m_visibilityLevel->actions());
     view->addSeparator();
     view->addAction(tr("&Refresh"), m_session, &SourceSession::requestRefresh);

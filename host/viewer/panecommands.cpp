@@ -6,7 +6,6 @@
 #include <QAbstractItemView>
 #include <QAbstractProxyModel>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -19,11 +18,6 @@ namespace {
 
 // The number under which an item tells its full path to everybody who has only its model.
 constexpr int fullNameRole = 288;
-
-class Text
-{
-    Q_DECLARE_TR_FUNCTIONS(Viewer::PaneCommands)
-};
 
 QModelIndex findPath(const QAbstractItemModel &model, const QString &fullName,
                      const QModelIndex &parent = QModelIndex())
@@ -83,7 +77,7 @@ void PaneCommands::showPane(const QString &name)
 {
     auto *dock = m_window->findChild<QDockWidget *>(QLatin1String("Tessera.Widget.") + name);
     if (!dock) {
-        throw PaneError(Text::tr("there is no pane \"%1\"").arg(name));
+        throw PaneError(QStringLiteral("there is no pane \"%1\"").arg(name));
     }
     m_pane = name;
     dock->show();
@@ -101,7 +95,7 @@ void PaneCommands::select(const QString &fullName)
         isShown = makeCurrent(table, findPath(*table->model(), fullName));
     }
     if (!isShown) {
-        throw PaneError(Text::tr("the pane %1 shows no \"%2\"").arg(m_pane, fullName));
+        throw PaneError(QStringLiteral("the pane %1 shows no \"%2\"").arg(m_pane, fullName));
     }
 }
 
@@ -109,7 +103,7 @@ void PaneCommands::search(const QString &text)
 {
     auto *edit = qobject_cast<QLineEdit *>(widget("filterEdit"));
     if (!edit) {
-        throw PaneError(Text::tr("the pane %1 has no search line").arg(m_pane));
+        throw PaneError(QStringLiteral("the pane %1 has no search line").arg(m_pane));
     }
     edit->setText(text);
 }
@@ -119,7 +113,7 @@ void PaneCommands::chooseUseCase(const QString &name)
     auto *box = qobject_cast<QComboBox *>(widget("useCaseComboBox"));
     const int index = box ? box->findText(name) : -1;
     if (index < 0) {
-        throw PaneError(Text::tr("the pane %1 has no use case \"%2\"").arg(m_pane, name));
+        throw PaneError(QStringLiteral("the pane %1 has no use case \"%2\"").arg(m_pane, name));
     }
     box->setCurrentIndex(index);
 }

@@ -104,7 +104,7 @@ QString ViewerApplication::featureText() const
     auto *command = dynamic_cast<Host::ActionCommand *>(
         m_window->menuService()->command(Core::CId("Tessera.CopyCameraFeatures")));
     if (!command) {
-        throw std::runtime_error(tr("no plug-in offers to copy the features").toStdString());
+        throw std::runtime_error("no plug-in offers to copy the features");
     }
     command->proxy()->trigger();
     return QGuiApplication::clipboard()->text();
@@ -131,7 +131,7 @@ void ViewerApplication::loadPlugins(const QString &folder)
 {
     const auto files = QDir(folder).entryInfoList(QDir::Files, QDir::Name);
     if (files.isEmpty()) {
-        throw Host::PluginError(folder, tr("there is no plug-in in this folder."));
+        throw Host::PluginError(folder, QStringLiteral("there is no plug-in in this folder."));
     }
     const QString language = LanguageHelper::loadLanguageId();
     for (const QFileInfo &file : files) {

@@ -49,7 +49,7 @@ void WindowPicture::save()
     m_rest.stop();
     m_limit.stop();
     if (!m_window) {
-        Q_EMIT failed(tr("%1: the window is gone").arg(m_file));
+        Q_EMIT failed(QStringLiteral("%1: the window is gone").arg(m_file));
         return;
     }
     QImageWriter writer(m_file);

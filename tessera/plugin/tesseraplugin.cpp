@@ -18,6 +18,7 @@
 #include "plugin/services/exceptionbarrier.h"
 #include "plugin/services/featuretreecontrolservice.h"
 #include "plugin/services/featuretreestatusservice.h"
+#include "plugin/services/pluginresources.h"
 #include "plugin/services/servicelookup.h"
 
 #include <QApplication>
@@ -60,6 +61,7 @@ CTesseraPlugin::CTesseraPlugin()
     , m_controlService(new Internal::CFeatureTreeControlService(nullptr))
     , m_useCaseService(new Internal::CFeatureTreeUseCaseService(nullptr))
 {
+    initResources(); // the host sets the language before anything else
     Internal::View::registerOptionsWindowTypes();
     loadDisplayNameCache();
 }

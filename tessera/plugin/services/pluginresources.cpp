@@ -9,6 +9,7 @@
 static void initGlobally()
 {
     Q_INIT_RESOURCE(tessera);
+    Q_INIT_RESOURCE(tesseratranslations);
 }
 
 namespace Plugin::Tessera {

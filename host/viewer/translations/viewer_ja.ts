@@ -1,0 +1,329 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>Viewer::DevicesView</name>
+    <message>
+        <source>&amp;Open</source>
+        <translation>開く(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>閉じる(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>デバイス</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::DocumentationView</name>
+    <message>
+        <source>Documentation of the current feature</source>
+        <translation>現在の機能の説明</translation>
+    </message>
+    <message>
+        <source>Select a feature to read about it here.</source>
+        <translation>機能を選択すると、ここに説明が表示されます。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::FeatureContextMenu</name>
+    <message>
+        <source>Copy &amp;Name</source>
+        <translation>名前をコピー(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>パスをコピー(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Value</source>
+        <translation>値をコピー(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Visibility &amp;Level</source>
+        <translation>表示レベル(&amp;L)</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::FeatureDocumentation</name>
+    <message>
+        <source>Integer</source>
+        <translation>整数</translation>
+    </message>
+    <message>
+        <source>Boolean</source>
+        <translation>ブール</translation>
+    </message>
+    <message>
+        <source>Float</source>
+        <translation>浮動小数点</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>String</source>
+        <translation>文字列</translation>
+    </message>
+    <message>
+        <source>Enumeration</source>
+        <translation>列挙</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>カテゴリー</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>not implemented</source>
+        <translation>未実装</translation>
+    </message>
+    <message>
+        <source>read and write</source>
+        <translation>読み書き可能</translation>
+    </message>
+    <message>
+        <source>read only</source>
+        <translation>読み取り専用</translation>
+    </message>
+    <message>
+        <source>write only</source>
+        <translation>書き込み専用</translation>
+    </message>
+    <message>
+        <source>not available at present</source>
+        <translation>現在は利用不可</translation>
+    </message>
+    <message>
+        <source>Beginner</source>
+        <translation>ビギナー</translation>
+    </message>
+    <message>
+        <source>Expert</source>
+        <translation>エキスパート</translation>
+    </message>
+    <message>
+        <source>Guru</source>
+        <translation>グル</translation>
+    </message>
+    <message>
+        <source>Invisible</source>
+        <translation>非表示</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1～%2</translation>
+    </message>
+    <message>
+        <source>%1, step %2</source>
+        <translation>%1、ステップ %2</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>パス</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>説明</translation>
+    </message>
+    <message>
+        <source>Tool tip</source>
+        <translation>ツールチップ</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>型</translation>
+    </message>
+    <message>
+        <source>Visibility</source>
+        <translation>表示レベル</translation>
+    </message>
+    <message>
+        <source>Access</source>
+        <translation>アクセス</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>制限範囲</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>単位</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>詳細</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>言語(&amp;L)</translation>
+    </message>
+    <message>
+        <source>A change holds from the next start</source>
+        <translation>変更は次回の起動から有効</translation>
+    </message>
+    <message>
+        <source>%1 will be used from the next start on.</source>
+        <translation>次回の起動から %1 を使用します。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::LogModel</name>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>レベル</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>カテゴリー</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::LogView</name>
+    <message>
+        <source>Log</source>
+        <translation>ログ</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>クリア(&amp;L)</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::MainWindow</name>
+    <message>
+        <source>Devices</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>ドキュメント</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>ログ</translation>
+    </message>
+    <message>
+        <source>&amp;Camera</source>
+        <translation>カメラ(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Visibility Level</source>
+        <translation>表示レベル</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>更新(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>ウィンドウ(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>バージョン情報(&amp;A)</translation>
+    </message>
+    <message>
+        <source>About Tessera</source>
+        <translation>Tessera のバージョン情報</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Tessera %1&lt;/h3&gt;&lt;p&gt;A feature browser for machine-vision cameras.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Tessera %1&lt;/h3&gt;&lt;p&gt;マシンビジョンカメラ用の機能ブラウザーです。&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::SourceModel</name>
+    <message>
+        <source>active</source>
+        <translation>アクティブ</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>オープン</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>クローズ</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::SourceSession</name>
+    <message>
+        <source>GigE Vision</source>
+        <translation>GigE Vision</translation>
+    </message>
+    <message>
+        <source>USB3 Vision</source>
+        <translation>USB3 Vision</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened.</source>
+        <translation>%1 を開くことができませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::VisibilityLevel</name>
+    <message>
+        <source>&amp;Beginner</source>
+        <translation>ビギナー(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Expert</source>
+        <translation>エキスパート(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Guru</source>
+        <translation>グル(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>すべて(&amp;A)</translation>
+    </message>
+</context>
+</TS>
