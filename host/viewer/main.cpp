@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QPalette>
 #include <QSettings>
 #include <QTextStream>
 
@@ -69,8 +70,23 @@ void useSettingsFolder(const QString &folder)
     }
 }
 
+// What is locked is read all day: Qt's own grey for it is too pale on white.
+void darkenPaleGrey()
+{
+    constexpr int legible = 0x80;
+    QPalette palette = QApplication::palette();
+    const bool isLight = palette.base().color().lightness() > legible;
+    if (isLight && palette.color(QPalette::Disabled, QPalette::Text).lightness() > legible) {
+        for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+            palette.setColor(QPalette::Disabled, role, QColor(legible, legible, legible));
+        }
+        QApplication::setPalette(palette);
+    }
+}
+
 int run(const Viewer::Options &options)
 {
+    darkenPaleGrey();
     if (!options.language.isEmpty()) {
         Host::LanguageChoice::setOverride(options.language);
     }

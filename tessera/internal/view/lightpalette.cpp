@@ -17,11 +17,14 @@ QPalette lightPalette()
             light.setColor(group, role, text);
         }
         light.setColor(group, QPalette::Base, Qt::white);
+        light.setColor(group, QPalette::Midlight, QColor(0xca, 0xca, 0xca)); // lines
         light.setColor(group, QPalette::Window, Qt::white);
         light.setColor(group, QPalette::Highlight, system.color(group, QPalette::Highlight));
         light.setColor(group, QPalette::HighlightedText,
                        system.color(group, QPalette::HighlightedText));
     }
+    // A locked editor looks locked.
+    light.setColor(QPalette::Disabled, QPalette::Base, QColor(0xef, 0xef, 0xef));
     return light;
 }
 
