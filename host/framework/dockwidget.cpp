@@ -3,6 +3,9 @@
 
 #include "dockwidget.h"
 
+#include <QStyleOption>
+#include <QStylePainter>
+
 namespace Host {
 
 DockWidget::DockWidget(QWidget *parent)
@@ -36,6 +39,21 @@ void DockWidget::setVisible(bool visible)
         Q_EMIT closedChanged(m_closed);
     }
     QDockWidget::setVisible(visible);
+}
+
+void DockWidget::paintEvent(QPaintEvent *event)
+{
+    Q_UNUSED(event)
+    QStylePainter painter(this);
+    if (isFloating()) {
+        QStyleOptionFrame frame;
+        frame.initFrom(this);
+        painter.drawPrimitive(QStyle::PE_FrameDockWidget, frame);
+    }
+    QStyleOptionDockWidget title;
+    initStyleOption(&title);
+    title.title.replace(QLatin1String("&&"), QLatin1String("&"));
+    painter.drawControl(QStyle::CE_DockWidgetTitle, title);
 }
 
 } // namespace Host

@@ -32,6 +32,10 @@ Q_SIGNALS:
     /// The state has changed; the content has not heard of it yet.
     void closedChanged(bool closed);
 
+protected:
+    /// Titles come with mnemonics in mind, which a title bar has none of: "R&&D" reads "R&D".
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     bool m_closed = true;
     bool m_released = false;
