@@ -76,21 +76,6 @@ private Q_SLOTS:
         m_guard.verify();
     }
 
-    void isAToolWindowOfTheScreensSize()
-    {
-        QVERIFY(!m_window->isVisible());
-        QCOMPARE(m_window->flags(), Qt::WindowFlags(0x0204100B));
-        QCOMPARE(m_window->title(), QStringLiteral(" "));
-        const double factor = m_window->screen()->logicalDotsPerInch() / 96.0;
-        QCOMPARE(m_window->size(), QSize(int(factor * 350), int(factor * 440)));
-        QCOMPARE(m_window->minimumSize(), m_window->size());
-        QCOMPARE(optionsWindowSize(100.0), QSize(364, 458));
-        QCOMPARE(m_menu->objectName(), QStringLiteral("_optionsMenu"));
-        show();
-        m_window->resize(m_window->size() * 2);
-        QTRY_COMPARE(m_menu->size().toSize(), m_window->size());
-    }
-
     void namesATabAndSelectsAnother()
     {
         show();
@@ -107,19 +92,6 @@ private Q_SLOTS:
         press(Qt::Key_Up);
         QCOMPARE(m_menu->userTabIndex(), 1);
         QVERIFY(field(1)->hasActiveFocus());
-    }
-
-    void deletesATabOnceItIsSelected()
-    {
-        show();
-        m_menu->setUserTabName(1, QStringLiteral("tab"));
-        click(find(row(1), "deleteButton"));
-        QCOMPARE(m_menu->userTabIndex(), 1);
-        QCOMPARE(field(1)->property("text").toString(), QStringLiteral("tab"));
-        click(find(row(1), "deleteButton"));
-        QVERIFY(m_menu->userTabNames().at(1).isEmpty());
-        QVERIFY(field(1)->property("text").toString().isEmpty());
-        QCOMPARE(m_menu->userTabIndex(), 1);
     }
 
     void walksAllControlsByKey()
@@ -203,51 +175,27 @@ private Q_SLOTS:
         QVERIFY(!view->isVisible());
     }
 
-    void takesFeaturesFromOurTablesOnly_data()
-    {
-        QTest::addColumn<int>("userTabIndex");
-        QTest::addColumn<QString>("source");
-        QTest::addColumn<bool>("taken");
-        QTest::newRow("our table") << 1 << "tesseraTableView" << true;
-        QTest::newRow("no tab") << -1 << "tesseraTableView" << false;
-        QTest::newRow("our tree") << 1 << "treeView" << false;
-        QTest::newRow("another application") << 1 << "" << false;
-    }
-
     void takesFeaturesFromOurTablesOnly()
     {
-        QFETCH(int, userTabIndex);
-        QFETCH(QString, source);
-        QFETCH(bool, taken);
         show();
-        m_menu->setUserTabIndex(userTabIndex);
+        m_menu->setUserTabIndex(1);
         QQuickItem *area = find(m_menu, "dragAndDrop");
         // An item of the scene can be dragged without a window system.
         QQmlComponent component(m_window->engine());
         component.setData("import QtQuick 2.15\n"
-                          "Item { Drag.active: x > 0; Drag.source: objectName ? this : null\n"
+                          "Item { Drag.active: x > 0; Drag.source: this\n"
                           "function drop() { Drag.drop() } }",
                           {});
-        const std::unique_ptr<QQuickItem> dragged(qobject_cast<QQuickItem *>(component.create()));
-        dragged->setParentItem(m_menu);
-        dragged->setObjectName(source);
-        dragged->setPosition(area->mapToItem(m_menu, area->boundingRect().center()));
-        QTEST(area->property("containsDrag").toBool(), "taken");
-        QMetaObject::invokeMethod(dragged.get(), "drop");
-        QCOMPARE(m_menu->featureNameList(1).size(), taken ? 1 : 0);
-    }
-
-    void drawsTheIconsOfTheStyle()
-    {
-        CStandardIconProvider provider;
-        const QString known = QStringLiteral("SP_TitleBarCloseButton");
-        QSize size;
-        QVERIFY(!provider.requestPixmap(known, &size, {-1, -1}).isNull());
-        QVERIFY(!size.isEmpty());
-        const QString unknown = QStringLiteral("SP_DialogOkButton");
-        const QImage nothing = provider.requestPixmap(unknown, nullptr, {8, 4}).toImage();
-        QCOMPARE(nothing.size(), QSize(8, 4));
-        QCOMPARE(qAlpha(nothing.pixel(4, 2)), 0);
+        for (const char *source : {"treeView", "tesseraTableView"}) {
+            const std::unique_ptr<QQuickItem> dragged(
+                qobject_cast<QQuickItem *>(component.create()));
+            dragged->setParentItem(m_menu);
+            dragged->setObjectName(QLatin1String(source));
+            dragged->setPosition(area->mapToItem(m_menu, area->boundingRect().center()));
+            QMetaObject::invokeMethod(dragged.get(), "drop");
+            const bool isOurs = qstrcmp(source, "tesseraTableView") == 0;
+            QCOMPARE(m_menu->featureNameList(1).size(), isOurs ? 1 : 0);
+        }
     }
 
 private:

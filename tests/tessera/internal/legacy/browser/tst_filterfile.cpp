@@ -69,12 +69,8 @@ private Q_SLOTS:
         const QString noRole = QStringLiteral("/Shipped_Filter.xml");
         const QString shipped = QStringLiteral("resource");
         QTest::newRow("backslash") << role << QStringList({ofModel, backslash}) << backslash;
-        QTest::newRow("before resource") << role << QStringList({ofRole, ofModel}) << ofModel;
         QTest::newRow("resource before next name") << role << QStringList(ofRole) << shipped;
-        QTest::newRow("without model")
-            << "@@FilterTest12" << QStringList({noRole, ofRole}) << shipped;
         QTest::newRow("without role") << "@@9" << QStringList({ofRole, noRole}) << noRole;
-        QTest::newRow("host's default") << "@1" << QStringList(ofModel) << QString();
     }
     void firstFileThatOpensIsTheOnlyOne()
     {
@@ -107,18 +103,8 @@ private Q_SLOTS:
             nullptr);
         row("no name", "<R/>" + rule("Width", locked), "/ /RO",
             "featuretreewidget \\d+ failed to get the name of a filter item");
-        row("empty name", "<R><Name/></R>" + rule("Width", locked), "/ /RO",
-            "featuretreewidget \\d+ empty name found");
-        row("deep, and the first of each",
-            "<!-- --><R><A>" + rule("Gain", expert) + rule("Width", locked) + "</A></R>text",
-            "Größe /RO /", nullptr);
-        row("very many", rule("Gain", locked).repeated(20000) + rule("Width", expert),
-            "/RO Größe /", nullptr);
         row("truncated", rule("Gain", locked).chopped(3));
         row("not UTF-8", rule("Gain", locked) + "\xff\xfe" + QByteArray("<a>").repeated(200000));
-        row("other format", "{\"Filter\":[]}</Filter>");
-        row("empty", "<!DOCTYPE");
-        row("nested without end", QByteArray("<a>").repeated(200000));
         row("growing entities", growingEntities());
     }
     void whatHoldsIsAppliedAndTheRestLogged()

@@ -9,6 +9,10 @@
 #include "internal/legacy/editors/parameteranddata.h"
 #include "support/fakecollection.h"
 
+#include <QTest>
+
+#include <cmath>
+
 /// Snapshots that are readable and writable; change what the test is about.
 template<typename Data> QSharedPointer<Data> liveSnapshot()
 {
@@ -47,14 +51,31 @@ inline auto floatSnapshot(double value, double minimum, double maximum, double i
     return data;
 }
 
-/// A camera with one parameter of each kind under "@C/".
+/// Rows of what a float's editor cannot show: columns "snapshot" and "entry", what it logs.
+inline void addUnusableSnapshots(const char *foreign, const char *unreadable)
+{
+    using Snapshot = QSharedPointer<const ParameterCollection::ParameterData>;
+    QTest::addColumn<Snapshot>("snapshot");
+    QTest::addColumn<QString>("entry");
+    const auto locked = floatSnapshot(1, 0, 10);
+    locked->isReadable = false;
+    QTest::newRow("null") << Snapshot() << foreign;
+    QTest::newRow("integer") << Snapshot(integerSnapshot(1, 0, 2)) << foreign;
+    QTest::newRow("unreadable") << Snapshot(locked) << unreadable;
+    QTest::newRow("contradicting limits") << Snapshot(floatSnapshot(5, 10, 0)) << "";
+    QTest::newRow("outside its limits") << Snapshot(floatSnapshot(11, 0, 10)) << "";
+    QTest::newRow("not a number") << Snapshot(floatSnapshot(std::nan(""), 0, 10)) << "";
+}
+
+/// A camera with one parameter of each kind under "@CameraDevice/".
 class EditorCamera final
 {
 public:
     EditorCamera()
     {
-        collection->attach(QStringLiteral("@C"),
+        collection->attach(QStringLiteral("@CameraDevice"),
                            QStringLiteral("Int Integer 5 [0..100]\n"
+                                          "Slider Integer 5 [0..100] rep=Linear\n"
                                           "Float Float 5 [0..100]\n"
                                           "ExposureTime Float 5 [0..100] rep=Logarithmic\n"
                                           "Gain Float 5 [0..100] rep=Linear\n"
@@ -86,7 +107,7 @@ public:
 
     static QString path(const char *name)
     {
-        return QStringLiteral("@C/") + QString::fromLatin1(name);
+        return QStringLiteral("@CameraDevice/") + QString::fromLatin1(name);
     }
 
     QSharedPointer<Tests::FakeCollection> collection =

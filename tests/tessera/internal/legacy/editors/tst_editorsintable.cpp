@@ -4,9 +4,7 @@
 // Connections end with the test function.
 // clazy:excludeall=lambda-in-connect
 
-#include "valuetable.h"
-
-#include "plugin/contract/parametercollection/parameter.h"
+#include "tessera/internal/view/featuretable.h"
 
 #include "host/simulation/simulatedcollection.h"
 #include "host/simulation/simulatedsource.h"
@@ -17,6 +15,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QSlider>
@@ -34,17 +33,19 @@ namespace {
 
 enum Row { Switch, Choice, Button, Hex, Slider, FreeFloat, StepFloat, LinearFloat, LogFloat };
 
-QStringList paths()
+// By row.
+QStringList names()
 {
-    QStringList names {QStringLiteral("ReverseX"),          QStringLiteral("ExposureAuto"),
-                       QStringLiteral("AcquisitionStart"),  QStringLiteral("ActionGroupKey"),
-                       QStringLiteral("GevSCPSPacketSize"), QStringLiteral("CvnTestRatio"),
-                       QStringLiteral("TriggerDelay"),      QStringLiteral("Gain"),
-                       QStringLiteral("ExposureTime")};
-    for (QString &name : names) {
-        name.prepend(QStringLiteral("@CameraDevice/"));
-    }
-    return names;
+    return {QStringLiteral("ReverseX"),          QStringLiteral("ExposureAuto"),
+            QStringLiteral("AcquisitionStart"),  QStringLiteral("ActionGroupKey"),
+            QStringLiteral("GevSCPSPacketSize"), QStringLiteral("CvnTestRatio"),
+            QStringLiteral("TriggerDelay"),      QStringLiteral("Gain"),
+            QStringLiteral("ExposureTime")};
+}
+
+QString path(int row)
+{
+    return QLatin1String("@CameraDevice/") + names().at(row);
 }
 
 // Waiting for doubles needs a tolerance: QTRY_COMPARE waits for the very same one.
@@ -82,9 +83,6 @@ void sendMouse(QWidget *target, QEvent::Type type, QPoint place, Qt::MouseButton
 
 } // namespace
 
-Q_DECLARE_METATYPE(Simulation::Publication)
-Q_DECLARE_METATYPE(Simulation::FaultKind)
-
 /// Each editor in a table of values, by the keys, the mouse and the wheel of its user, over a
 /// simulated camera.
 class TestEditorsInTable : public QObject
@@ -98,8 +96,13 @@ private Q_SLOTS:
         m_source = m_catalogue.makeSource(QStringLiteral("simulated:gige"));
         m_source->open();
         m_camera = m_source->collection();
-        m_table = std::make_unique<ValueTable>(m_camera, paths());
-        QVERIFY(m_table->open());
+        if (qEnvironmentVariableIsSet("TESSERA_DELAYED_PUBLICATION")) {
+            m_camera->setPublication(Publication::Deferred);
+        }
+        m_table = std::make_unique<FeatureTable>();
+        m_table->horizontalHeader()->setStretchLastSection(true);
+        m_table->resize(500, 400);
+        m_table->show(m_camera, names());
     }
 
     void cleanup()
@@ -110,23 +113,16 @@ private Q_SLOTS:
         m_guard.verify();
     }
 
-    void everyKindReachesTheCamera_data()
-    {
-        addPublicationRows();
-    }
-
     void everyKindReachesTheCamera()
     {
-        QFETCH(Publication, publication);
-        m_camera->setPublication(publication);
         QTest::mouseClick(part<QCheckBox>(Switch), Qt::LeftButton, {},
                           QPoint(8, part<QCheckBox>(Switch)->height() / 2));
         QTRY_COMPARE(onCamera(Switch), QVariant(true));
         QVERIFY(part<QCheckBox>(Switch)->isChecked());
 
+        m_table->edit(value(Hex));
         enterText(part<QLineEdit>(Hex), "0xabc");
         QTRY_COMPARE(onCamera(Hex).toInt(), 0xabc);
-        QTRY_COMPARE(part<QLineEdit>(Hex)->text(), QStringLiteral("0xabc"));
 
         enterText(part<QSpinBox>(Slider), "1001");
         QTRY_COMPARE(onCamera(Slider).toInt(), 1000);
@@ -145,21 +141,14 @@ private Q_SLOTS:
 
         QTest::keyClick(part<QComboBox>(Choice), Qt::Key_Down);
         QTRY_COMPARE(onCamera(Choice).toString(), QStringLiteral("Once"));
-        QTRY_VERIFY(!m_table->editor(LogFloat)->isEnabled()); // locked by the automatic
+        QTRY_VERIFY(!editor(LogFloat)->isEnabled()); // locked by the automatic
 
         QTest::mouseClick(part<QToolButton>(Button), Qt::LeftButton);
-        QTRY_VERIFY(!m_table->editor(Slider)->isEnabled()); // locked while the camera runs
-    }
-
-    void stepsReachTheCameraAndComeBack_data()
-    {
-        addPublicationRows();
+        QTRY_VERIFY(!editor(Slider)->isEnabled()); // locked while the camera runs
     }
 
     void stepsReachTheCameraAndComeBack()
     {
-        QFETCH(Publication, publication);
-        m_camera->setPublication(publication);
         const auto press = [this](Row row, std::initializer_list<Qt::Key> keys) {
             auto *box = part<QAbstractSpinBox>(row);
             box->setFocus();
@@ -186,15 +175,8 @@ private Q_SLOTS:
         QVERIFY(onCamera(LogFloat).toDouble() < 5200.0);
     }
 
-    void draggedSliderNeverJumpsBack_data()
-    {
-        addPublicationRows();
-    }
-
     void draggedSliderNeverJumpsBack()
     {
-        QFETCH(Publication, publication);
-        m_camera->setPublication(publication);
         m_camera->faults().setDelay(5);
         for (const Row row : {Slider, LinearFloat, LogFloat}) {
             auto *slider = part<QSlider>(row);
@@ -228,50 +210,6 @@ private Q_SLOTS:
         QTRY_COMPARE(part<QDoubleSpinBox>(LogFloat)->value(), 10000000.0);
     }
 
-    void refusedValuesFallBack_data()
-    {
-        QTest::addColumn<Publication>("publication");
-        QTest::addColumn<FaultKind>("kind");
-        for (const auto publication : {Publication::Immediate, Publication::Deferred}) {
-            const char *when = publication == Publication::Immediate ? "at once" : "later";
-            const auto addRow = [&](const char *kind, FaultKind fault) {
-                QTest::addRow("%s, %s", kind, when) << publication << fault;
-            };
-            addRow("GenICam", FaultKind::GenericException);
-            addRow("standard", FaultKind::StdException);
-            addRow("host", FaultKind::BaseException);
-            addRow("unknown", FaultKind::Unknown);
-        }
-    }
-
-    void refusedValuesFallBack()
-    {
-        QFETCH(Publication, publication);
-        QFETCH(FaultKind, kind);
-        m_camera->setPublication(publication);
-        for (const QString &path : paths()) { // clazy:exclude=range-loop-detach
-            m_camera->faults().failWrites(path, kind);
-            m_camera->faults().failWrites(path + QStringLiteral("/Alias"), kind);
-        }
-        QTest::mouseClick(part<QCheckBox>(Switch), Qt::LeftButton, {}, QPoint(8, 10));
-        QTRY_VERIFY(!part<QCheckBox>(Switch)->isChecked());
-        QTest::keyClick(part<QComboBox>(Choice), Qt::Key_Down);
-        QTRY_COMPARE(part<QComboBox>(Choice)->currentText(), QStringLiteral("Off"));
-        enterText(part<QLineEdit>(Hex), "0x77");
-        QTRY_COMPARE(part<QLineEdit>(Hex)->text(), QStringLiteral("0x0"));
-        enterText(part<QSpinBox>(Slider), "4000");
-        QTRY_COMPARE(part<QSpinBox>(Slider)->value(), 1500);
-        QCOMPARE(part<QSlider>(Slider)->value(), 1500);
-        enterText(part<QDoubleSpinBox>(FreeFloat), "77");
-        QTRY_COMPARE(part<QDoubleSpinBox>(FreeFloat)->value(), 1000.0);
-        enterText(part<QDoubleSpinBox>(LinearFloat), "7");
-        QTRY_COMPARE(part<QDoubleSpinBox>(LinearFloat)->value(), 0.0);
-        part<QSlider>(LinearFloat)->setValue(3000);
-        QTRY_COMPARE(part<QSlider>(LinearFloat)->value(), 0);
-        part<QSlider>(LogFloat)->setValue(99000);
-        QTRY_COMPARE(part<QDoubleSpinBox>(LogFloat)->value(), 5000.0);
-    }
-
     void unpluggingWhileTypingHarmsNothing()
     {
         bool unplugged = false;
@@ -292,7 +230,7 @@ private Q_SLOTS:
         part<QSlider>(LogFloat)->setValue(70000);
         QTest::mouseClick(part<QToolButton>(Button), Qt::LeftButton);
         m_table->setFocus();
-        QCOMPARE(m_table->values().writes(), 0);
+        QCOMPARE(m_camera->counters().total().writes, 0);
         m_camera->revive();
         m_camera->endBatchUpdate();
         enterText(part<QDoubleSpinBox>(LinearFloat), "7");
@@ -305,9 +243,9 @@ private Q_SLOTS:
         box->setFocus();
         box->selectAll();
         QTest::keyClicks(box, QStringLiteral("300"));
-        m_camera->changeOnDevice(paths().at(Choice), QStringLiteral("Continuous"));
-        QTRY_VERIFY(!m_table->editor(LogFloat)->isEnabled());
-        QCOMPARE(m_table->values().writes(), 0);
+        m_camera->changeOnDevice(path(Choice), QStringLiteral("Continuous"));
+        QTRY_VERIFY(!editor(LogFloat)->isEnabled());
+        QCOMPARE(m_camera->counters().total().writes, 0);
         QTRY_COMPARE(part<QComboBox>(Choice)->currentText(), QStringLiteral("Continuous"));
     }
 
@@ -326,73 +264,58 @@ private Q_SLOTS:
         QFETCH(int, row);
         const QVariant before = onCamera(row);
         const int notch = row == Choice ? -1 : 1;
-        m_table->editor(row == Choice ? StepFloat : Choice)->setFocus(); // not the one below
+        editor(row == Choice ? StepFloat : Choice)->setFocus(); // not the one below
         m_table->resize(500, 100);
-        m_table->scrollTo(m_table->values().index(row, 1));
+        m_table->scrollTo(value(row));
         QCoreApplication::processEvents();
-        QList<QWidget *> targets = m_table->editor(row)->findChildren<QWidget *>();
-        targets.append(m_table->editor(row));
+        QList<QWidget *> targets = editor(row)->findChildren<QWidget *>();
+        targets.append(editor(row));
         const int scrolled = m_table->verticalScrollBar()->value();
         for (QWidget *target : qAsConst(targets)) {
             turnWheel(target, notch);
         }
         QCOMPARE(onCamera(row), before);
-        QCOMPARE(m_table->values().writes(), 0);
+        QCOMPARE(m_camera->counters().total().writes, 0);
         QVERIFY(m_table->verticalScrollBar()->value() != scrolled);
 
-        m_table->editor(row)->setFocus();
+        editor(row)->setFocus();
         QWidget *box = part<QAbstractSpinBox>(row);
-        turnWheel(box ? box : m_table->editor(row), notch);
+        turnWheel(box ? box : editor(row), notch);
         QTRY_VERIFY(onCamera(row) != before);
-    }
-
-    void arrowingThroughTheTableWritesNothing()
-    {
-        for (int row = 0; row < m_table->values().rowCount(); ++row) {
-            if (m_table->editor(row)->focusPolicy() != Qt::NoFocus) {
-                m_table->editor(row)->setFocus();
-                QCoreApplication::processEvents();
-            }
-        }
-        m_table->setFocus();
-        QCOMPARE(m_table->values().writes(), 0);
-        QCOMPARE(m_camera->counters().total().writes, 0);
     }
 
     void valuesOfTheCameraComeIn()
     {
-        m_camera->changeOnDevice(paths().at(Slider), 8000);
+        m_camera->changeOnDevice(path(Slider), 8000);
         QTRY_COMPARE(part<QSlider>(Slider)->value(), 8000);
-        m_camera->changeOnDevice(paths().at(LogFloat), 777.7);
+        m_camera->changeOnDevice(path(LogFloat), 777.7);
         QTRY_COMPARE(part<QDoubleSpinBox>(LogFloat)->text(), QStringLiteral("777.7"));
-        m_camera->changeOnDevice(paths().at(Hex), 255);
-        QTRY_COMPARE(part<QLineEdit>(Hex)->text(), QStringLiteral("0xff"));
         QCOMPARE(m_camera->counters().total().writes, 0);
     }
 
 private:
-    static void addPublicationRows()
-    {
-        QTest::addColumn<Publication>("publication");
-        QTest::newRow("at once") << Publication::Immediate;
-        QTest::newRow("through the event loop") << Publication::Deferred;
-    }
-
     template<typename Widget> Widget *part(int row) const
     {
-        return m_table->part<Widget>(row);
+        return m_table->part<Widget>(names().at(row));
     }
-
+    QModelIndex value(int row) const
+    {
+        return m_table->value(names().at(row));
+    }
+    QWidget *editor(int row) const
+    {
+        return m_table->indexWidget(value(row));
+    }
     QVariant onCamera(int row) const
     {
-        return m_camera->deviceValue(paths().at(row));
+        return m_camera->deviceValue(path(row));
     }
 
     Tests::WarningGuard m_guard;
     SourceCatalogue m_catalogue;
     QSharedPointer<SimulatedSource> m_source;
     QSharedPointer<SimulatedCollection> m_camera;
-    std::unique_ptr<ValueTable> m_table;
+    std::unique_ptr<FeatureTable> m_table;
 };
 
 QTEST_MAIN(TestEditorsInTable)

@@ -13,7 +13,6 @@
 #include "support/warningguard.h"
 
 #include <QAbstractItemView>
-#include <QSignalSpy>
 #include <QTest>
 
 #include <memory>
@@ -66,107 +65,61 @@ private Q_SLOTS:
         const auto on = liveSnapshot<BooleanParameterData>();
         on->value = true;
         editor.updateEditor(m_camera->pair("Switch", on));
+        editor.updateEditor(m_camera->pair("Switch", {}));
+        editor.updateEditor(m_camera->pair("Switch", integerSnapshot(0, 0, 1)));
         QVERIFY(editor.isChecked() && editor.isEnabled());
         QCOMPARE(editor.editorValue(), QVariant(QStringLiteral("1")));
-        QCOMPARE(editor.editorValue().userType(), int(QMetaType::QString));
 
         const auto locked = liveSnapshot<BooleanParameterData>();
         locked->isWritable = false;
         editor.updateEditor(m_camera->pair("Switch", locked));
         QVERIFY(!editor.isChecked() && !editor.isEnabled());
-        QCOMPARE(editor.editorValue(), QVariant(QStringLiteral("0")));
-
-        editor.updateEditor(m_camera->pair("Switch", on));
-        editor.updateEditor(m_camera->pair("Switch", {}));
-        editor.updateEditor(m_camera->pair("Switch", integerSnapshot(0, 0, 1)));
-        QVERIFY(editor.isChecked() && editor.isEnabled());
     }
 
     void listShowsDisplayNamesAndGivesSymbols()
     {
         EnumEditor editor(nullptr);
-        editor.addItem(QStringLiteral("left over"));
-        editor.updateEditor(m_camera->pair("Choice", enumSnapshot("on")));
-        QCOMPARE(editor.count(), 3);
+        const auto locked = enumSnapshot("on");
+        locked->isWritable = false;
+        editor.updateEditor(m_camera->pair("Choice", locked));
+        QVERIFY(!editor.isEnabled());
         QCOMPARE(editor.itemText(1), QStringLiteral("Switched on"));
-        QCOMPARE(editor.itemText(2), QStringLiteral("on")); // without a display name
-        QCOMPARE(editor.currentIndex(), 2);
+        QCOMPARE(editor.currentText(), QStringLiteral("on")); // without a display name
         QCOMPARE(editor.editorValue(), QVariant(QStringLiteral("on")));
 
-        const auto locked = enumSnapshot("Off");
-        locked->isWritable = false;
-        locked->entryDisplayNames[0] = QStringLiteral("Aus");
-        editor.updateEditor(m_camera->pair("Choice", locked));
-        QCOMPARE(editor.currentText(), QStringLiteral("Aus"));
-        QVERIFY(!editor.isEnabled());
-    }
-
-    void listKeepsEntriesOfAnUnknownOrUnreadableValue()
-    {
-        EnumEditor editor(nullptr);
-        for (int update = 0; update < 2; ++update) {
-            m_guard.expectLogEntry(ELogLevel::Fault, enumLog,
-                                   QStringLiteral(": Choice. No entry in the combo box matches the "
-                                                  "current value Never"));
-            editor.updateEditor(m_camera->pair("Choice", enumSnapshot("Never")));
-        }
+        m_guard.expectLogEntry(ELogLevel::Fault, enumLog,
+                               QStringLiteral(": Choice. No entry in the combo box matches the "
+                                              "current value Never"));
+        editor.updateEditor(m_camera->pair("Choice", enumSnapshot("Never")));
         QCOMPARE(editor.count(), 3);
-        QCOMPARE(editor.currentIndex(), -1);
         QVERIFY(!editor.editorValue().isValid());
-
-        const auto unreadable = enumSnapshot("On");
-        unreadable->isReadable = false;
-        editor.updateEditor(m_camera->pair("Choice", unreadable));
-        QCOMPARE(editor.count(), 3);
-        QCOMPARE(editor.currentIndex(), -1);
-    }
-
-    void listIsEmptyAfterAForeignSnapshot()
-    {
-        EnumEditor editor(nullptr);
-        editor.updateEditor(m_camera->pair("Choice", enumSnapshot("On")));
         m_guard.expectLogEntry(ELogLevel::Fault, enumLog,
                                QStringLiteral("Choice is called with non-enumeration node????"));
         editor.updateEditor(m_camera->pair("Choice", {}));
         QCOMPARE(editor.count(), 0);
-        // Says that it is an enumeration, but is none.
-        m_guard.expectLogEntry(ELogLevel::Fault, enumLog,
-                               QStringLiteral(" is called with non-enumeration node????"));
-        const auto liar = liveSnapshot<IntegerParameterData>();
-        liar->type = Enumeration;
-        editor.updateEditor({{}, liar});
     }
 
     void openListIsLeftAlone()
     {
-        EnumEditor editor(nullptr);
-        editor.updateEditor(m_camera->pair("Choice", enumSnapshot("Off")));
-        editor.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&editor));
-        editor.showPopup();
-        const auto other = enumSnapshot("On");
-        other->entryNames.removeLast();
-        editor.updateEditor(m_camera->pair("Choice", other));
-        QCOMPARE(editor.count(), 3);
-        QCOMPARE(editor.currentIndex(), 0);
-
-        QSignalSpy activated(&editor, QOverload<int>::of(&QComboBox::activated));
-        QTest::keyClick(editor.view(), Qt::Key_Down);
-        QTest::keyClick(editor.view(), Qt::Key_Return);
-        QCOMPARE(activated.count(), 1);
-        QCOMPARE(editor.editorValue(), QVariant(QStringLiteral("On")));
-        QCOMPARE(editor.count(), 3); // what was dropped does not come back by itself
-        editor.updateEditor(m_camera->pair("Choice", other));
-        QCOMPARE(editor.count(), 2);
-    }
-
-    void listMayBeDeletedWhileOpen()
-    {
         auto editor = std::make_unique<EnumEditor>(nullptr);
         editor->updateEditor(m_camera->pair("Choice", enumSnapshot("Off")));
         editor->show();
+        QVERIFY(QTest::qWaitForWindowExposed(editor.get()));
         editor->showPopup();
-        editor.reset();
+        const auto other = enumSnapshot("On");
+        other->entryNames.removeLast();
+        editor->updateEditor(m_camera->pair("Choice", other));
+        QCOMPARE(editor->count(), 3);
+        QCOMPARE(editor->currentIndex(), 0);
+
+        QTest::keyClick(editor->view(), Qt::Key_Down);
+        QTest::keyClick(editor->view(), Qt::Key_Return);
+        QCOMPARE(editor->editorValue(), QVariant(QStringLiteral("On")));
+        QCOMPARE(editor->count(), 3); // what was dropped does not come back by itself
+        editor->updateEditor(m_camera->pair("Choice", other));
+        QCOMPARE(editor->count(), 2);
+        editor->showPopup();
+        editor.reset(); // harms nothing
     }
 
     void buttonStaysPressedWhileItsCommandRuns()
@@ -183,23 +136,13 @@ private Q_SLOTS:
 
         editor.updateEditor(m_camera->pair("Go", commandSnapshot(false)));
         QVERIFY(editor.isChecked());
+        m_guard.expectLogEntry(ELogLevel::Fault, buttonLog,
+                               QStringLiteral(" is called with non-command node????"));
+        editor.updateEditor(m_camera->pair("Int", commandSnapshot(true)));
+        QVERIFY(editor.isChecked());
         editor.click();
         m_camera->node("Go").onRefresh = Tests::Fault::Unknown;
         QVERIFY(!editor.editorValue().isValid());
-    }
-
-    void buttonKeepsItsStateAfterAForeignSnapshot()
-    {
-        ToolButtonEditor editor(nullptr);
-        editor.updateEditor(m_camera->pair("Go", commandSnapshot(false)));
-        for (const ParameterAndData &pair :
-             {m_camera->pair("Go", {}), m_camera->pair("Go", integerSnapshot(0, 0, 1)),
-              m_camera->pair("Int", commandSnapshot(true)), ParameterAndData()}) {
-            m_guard.expectLogEntry(ELogLevel::Fault, buttonLog,
-                                   QStringLiteral(" is called with non-command node????"));
-            editor.updateEditor(pair);
-        }
-        QVERIFY(editor.isChecked() && editor.isEnabled());
     }
 
 private:

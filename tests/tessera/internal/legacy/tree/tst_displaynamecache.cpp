@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "internal/legacy/tree/displaynamecache.h"
+#include "support/settingsfolder.h"
 #include "support/warningguard.h"
 
-#include <QSettings>
-#include <QTemporaryDir>
 #include <QTest>
 
 class tst_DisplayNameCache : public QObject
@@ -13,14 +12,6 @@ class tst_DisplayNameCache : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName(QStringLiteral("tessera"));
-        QCoreApplication::setApplicationName(QStringLiteral("test"));
-        QSettings::setDefaultFormat(QSettings::IniFormat);
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
-    }
-
     void init()
     {
         m_guard.begin();
@@ -56,7 +47,7 @@ private Q_SLOTS:
     }
 
 private:
-    QTemporaryDir m_settings;
+    Tests::SettingsFolder m_settings;
     const QString m_key = QStringLiteral("Tessera/DisplayNameCache");
     Tests::WarningGuard m_guard;
 };

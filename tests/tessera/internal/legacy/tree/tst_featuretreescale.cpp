@@ -86,76 +86,64 @@ private Q_SLOTS:
     {
         m_guard.verify();
     }
-    void tenTimesTheFeaturesCostAboutTenTimesTheWork_data();
-    void tenTimesTheFeaturesCostAboutTenTimesTheWork();
-    void aTreeSubscribesAndReadsNoPlainFeature();
+    void tenTimesTheFeaturesCostAboutTenTimesTheWork_data()
+    {
+        QTest::addColumn<Work>("work");
+        QTest::newRow("opening") << Work(
+            [](Browser &browser, FeatureTreeProxyModel &) { browser.open(); });
+        QTest::newRow("search marks") << Work([](Browser &, FeatureTreeProxyModel &proxy) {
+            proxy.markSearchMatches(QStringLiteral("feature1"));
+            proxy.rowCount(proxy.index(0, 0));
+        });
+        QTest::newRow("use case of all features")
+            << Work([](Browser &browser, FeatureTreeProxyModel &proxy) {
+                   proxy.markFavorites(browser.names);
+               });
+        QTest::newRow("filter by all names")
+            << Work([](Browser &browser, FeatureTreeProxyModel &proxy) {
+                   proxy.setFeatureNameFilter(browser.names);
+               });
+        QTest::newRow("another level") << Work([](Browser &browser, FeatureTreeProxyModel &proxy) {
+            proxy.setVisibility(0);
+            browser.view->setVisibility(GenApi::Beginner);
+            proxy.invalidate();
+            QCoreApplication::processEvents();
+        });
+    }
+
+    // Ten times the work is an exponent of 1; what is quadratic has 2.
+    void tenTimesTheFeaturesCostAboutTenTimesTheWork()
+    {
+        QFETCH(Work, work);
+        Browser small(1000);
+        Browser large(10000);
+        const double ratio = static_cast<double>(shortestOfFive(large, work))
+            / static_cast<double>(shortestOfFive(small, work));
+        const double exponent = std::log10(ratio);
+        qInfo("exponent %.2f", exponent);
+        QVERIFY(exponent < 1.6);
+    }
+
+    void aTreeSubscribesAndReadsNoPlainFeature()
+    {
+        Browser browser(1000);
+        FeatureTreeProxyModel &proxy = browser.open();
+        proxy.markSearchMatches(QStringLiteral("feature"));
+        proxy.setFeatureNameFilter(browser.names);
+        proxy.setShowUnavailable(true);
+        QCoreApplication::processEvents();
+        const bool untouched =
+            std::all_of(browser.names.cbegin(), browser.names.cend(), [&](const QString &name) {
+                const Tests::FakeNode &node = browser.collection->node(name);
+                return !node.isSubscribed() && node.refreshes == 0 && node.invalidations == 0;
+            });
+        QVERIFY(untouched);
+        QVERIFY(browser.collection->node(QStringLiteral("@CameraDevice/Category0")).isSubscribed());
+    }
 
 private:
     Tests::WarningGuard m_guard;
 };
-
-void tst_FeatureTreeScale::tenTimesTheFeaturesCostAboutTenTimesTheWork_data()
-{
-    QTest::addColumn<Work>("work");
-    QTest::newRow("opening") << Work(
-        [](Browser &browser, FeatureTreeProxyModel &) { browser.open(); });
-    QTest::newRow("expanding") << Work([](Browser &browser, FeatureTreeProxyModel &) {
-        browser.view->collapseAll();
-        browser.view->expandAll();
-        QCoreApplication::processEvents();
-    });
-    QTest::newRow("search marks") << Work([](Browser &, FeatureTreeProxyModel &proxy) {
-        proxy.markSearchMatches(QStringLiteral("feature1"));
-        proxy.rowCount(proxy.index(0, 0));
-    });
-    QTest::newRow("use case of all features") << Work(
-        [](Browser &browser, FeatureTreeProxyModel &proxy) { proxy.markFavorites(browser.names); });
-    QTest::newRow("filter by all names")
-        << Work([](Browser &browser, FeatureTreeProxyModel &proxy) {
-               proxy.setFeatureNameFilter(browser.names);
-           });
-    QTest::newRow("items for all names")
-        << Work([](Browser &browser, FeatureTreeProxyModel &proxy) {
-               QStringList names = browser.names;
-               proxy.itemsForNames(names);
-           });
-    QTest::newRow("another level") << Work([](Browser &browser, FeatureTreeProxyModel &proxy) {
-        proxy.setVisibility(0);
-        browser.view->setVisibility(GenApi::Beginner);
-        proxy.invalidate();
-        QCoreApplication::processEvents();
-    });
-}
-
-// Ten times the work is an exponent of 1; what is quadratic has 2.
-void tst_FeatureTreeScale::tenTimesTheFeaturesCostAboutTenTimesTheWork()
-{
-    QFETCH(Work, work);
-    Browser small(1000);
-    Browser large(10000);
-    const double ratio = static_cast<double>(shortestOfFive(large, work))
-        / static_cast<double>(shortestOfFive(small, work));
-    const double exponent = std::log10(ratio);
-    qInfo("exponent %.2f", exponent);
-    QVERIFY(exponent < 1.6);
-}
-
-void tst_FeatureTreeScale::aTreeSubscribesAndReadsNoPlainFeature()
-{
-    Browser browser(1000);
-    FeatureTreeProxyModel &proxy = browser.open();
-    proxy.markSearchMatches(QStringLiteral("feature"));
-    proxy.setFeatureNameFilter(browser.names);
-    proxy.setShowUnavailable(true);
-    QCoreApplication::processEvents();
-    const bool untouched =
-        std::all_of(browser.names.cbegin(), browser.names.cend(), [&](const QString &name) {
-            const Tests::FakeNode &node = browser.collection->node(name);
-            return !node.isSubscribed() && node.refreshes == 0 && node.invalidations == 0;
-        });
-    QVERIFY(untouched);
-    QVERIFY(browser.collection->node(QStringLiteral("@CameraDevice/Category0")).isSubscribed());
-}
 
 QTEST_MAIN(tst_FeatureTreeScale)
 #include "tst_featuretreescale.moc"
