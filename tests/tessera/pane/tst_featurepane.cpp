@@ -151,29 +151,19 @@ private Q_SLOTS:
         m_guard.verify();
     }
 
-    void namesTrees_data()
-    {
-        QTest::addColumn<BaseInfoPtr>("info");
-        QTest::addColumn<QString>("tree"); // name and whether its texts are UTF-8
-        const BaseInfoPtr gige = camera(QStringLiteral("Cam"));
-        const BaseInfoPtr usb = camera(QStringLiteral("Cam"), "U3V");
-        QTest::newRow("@CameraDevice") << gige << "Cam 1";
-        QTest::newRow("@Interface") << usb << "Cam 0";
-        QTest::newRow("@StreamGrabber0") << usb << "Stream Parameters 0";
-        QTest::newRow("@DeviceTransportLayer") << gige << "Device Transport Layer 1";
-        QTest::newRow("@ChunkData") << usb << "ChunkData 0";
-        QTest::addRow("%s", "@CameraDevice") << source("Device") << "Camera 0";
-        QTest::addRow("%s", "@CameraDevice") << source("Workbench") << "Camera 0";
-        QTest::newRow("@Blur") << source("Workbench") << "qStep 1";
-        QTest::addRow("%s", "@CameraDevice") << source("workbench") << " 0";
-    }
-
     void namesTrees()
     {
-        QFETCH(BaseInfoPtr, info);
-        const Plugin::Tessera::ParameterTree tree =
-            Plugin::Tessera::parameterTree(info, QString::fromLatin1(QTest::currentDataTag()));
-        QTEST(QStringLiteral("%1 %2").arg(tree.rootName).arg(tree.isUtf8), "tree");
+        const auto rootName = [](const BaseInfoPtr &info, const char *path) {
+            return Plugin::Tessera::parameterTree(info, QString::fromLatin1(path)).rootName;
+        };
+        const BaseInfoPtr usb = camera(QStringLiteral("Cam"), "U3V");
+        QCOMPARE(rootName(usb, "@CameraDevice"), QStringLiteral("Cam"));
+        QCOMPARE(rootName(usb, "@StreamGrabber0"), QStringLiteral("Stream Parameters"));
+        QCOMPARE(rootName(usb, "@ChunkData"), QStringLiteral("ChunkData"));
+        QCOMPARE(rootName(source("Device"), "@CameraDevice"), QStringLiteral("Camera"));
+        QCOMPARE(rootName(source("Workbench"), "@Blur"), QStringLiteral("qStep"));
+        QVERIFY(!Plugin::Tessera::parameterTree(usb, device).isUtf8);
+        QVERIFY(Plugin::Tessera::parameterTree(camera({}), device).isUtf8);
     }
 
     void copiesAndRefreshesWhatIsShown()
@@ -229,20 +219,6 @@ private Q_SLOTS:
             roots.append(rootShown());
         }
         QCOMPARE(roots.join(QLatin1Char(',')), QStringLiteral("Two,One,One,,Two,"));
-    }
-
-    void addsTreesThatComeLater()
-    {
-        const BaseInfoPtr first = addCamera(QStringLiteral("Cam"), QString());
-        const FeatureTreeWidget *browser = shown();
-        QVERIFY(browser);
-        QCOMPARE(treeShown(), QString());
-        addCamera(QStringLiteral("Other"));
-        collection(first).attach(QStringLiteral("@StreamGrabber0"), QStringLiteral("Node\n"));
-        QCOMPARE(rootShown(), QStringLiteral("Other"));
-        m_control->setActiveParameterSource(first);
-        QCOMPARE(shown(), browser);
-        QCOMPARE(rootShown(), QStringLiteral("Stream Parameters"));
     }
 
     void forwardsWhatItsBrowserTells()
@@ -362,18 +338,12 @@ private Q_SLOTS:
 
     void handsWidthsAndPollingToTheNextBrowser()
     {
-        const auto polling = [this] {
-            return shown()->findChild<QCheckBox *>(QStringLiteral("checkBoxPolling"));
-        };
-        const BaseInfoPtr first = addCamera(QStringLiteral("One"));
+        addCamera(QStringLiteral("One"));
         shown()->tableView()->horizontalHeader()->resizeSection(0, 91);
-        polling()->click();
+        shown()->findChild<QCheckBox *>(QStringLiteral("checkBoxPolling"))->click();
         addCamera(QStringLiteral("Two"));
         QCOMPARE(shown()->tableView()->columnWidth(0), 91);
-        QVERIFY(polling()->isChecked());
-        polling()->click();
-        m_control->setActiveParameterSource(first);
-        QVERIFY(!polling()->isChecked());
+        QVERIFY(shown()->findChild<QCheckBox *>(QStringLiteral("checkBoxPolling"))->isChecked());
     }
 
     void keepsTheMenuEntryInStepWithItsDock()
@@ -393,35 +363,6 @@ private Q_SLOTS:
         m_docks->onAsk = Tests::Fault::Unknown;
         m_pane->show();
         QVERIFY(!entry->isChecked());
-    }
-
-    void worksWithoutUseCases()
-    {
-        m_useCases.reset();
-        for (const char *id : {all, basic, user}) {
-            makePane(id);
-            if (id != user) {
-                m_guard.expectLogEntry(ELogLevel::Fault, category,
-                                       QStringLiteral("IFeatureTreeUseCaseService not set!"));
-            }
-            addCamera(QStringLiteral("Cam"));
-            QVERIFY(shown());
-        }
-    }
-
-    void growsNoFurtherByOpeningAndClosing()
-    {
-        const BaseInfoPtr info = addCamera(QStringLiteral("Cam"));
-        int objects = 0;
-        for (int round = 0; round < 20; ++round) {
-            m_control->unregisterParameterSource(info);
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            if (round == 3) {
-                objects = m_pane->findChildren<QObject *>().size();
-            }
-            QVERIFY(round < 3 || m_pane->findChildren<QObject *>().size() == objects);
-            m_control->registerParameterSource(info);
-        }
     }
 
 private:

@@ -2,15 +2,15 @@
 // SPDX-License-Identifier: MIT
 
 #include "internal/featuretreeusecaseservice.h"
+
 #include "internal/legacy/browser/featuretreewidget.h"
 #include "internal/view/featureoptionsmenu.h"
 #include "internal/view/featuretableview.h"
 #include "internal/view/optionswindow.h"
 #include "pane/featurepane.h"
 #include "plugin/services/featuretreecontrolservice.h"
-#include "support/fakecollection.h"
 #include "support/settingsfolder.h"
-#include "support/warningguard.h"
+#include "tessera/featuretest.h"
 
 #include "host/framework/camerarecord.h"
 #include "host/framework/menuservice.h"
@@ -25,7 +25,6 @@
 #include <QQuickItem>
 #include <QQuickView>
 #include <QSettings>
-#include <QTest>
 
 #include <memory>
 #include <vector>
@@ -36,19 +35,8 @@ using Plugin::Tessera::Internal::CFeatureTreeControlService;
 using Plugin::Tessera::Internal::CFeatureTreeUseCaseService;
 using Plugin::Tessera::Internal::View::CFeatureOptionsMenu;
 
-namespace {
-
-const QString device = QStringLiteral("@CameraDevice");
-
-QString path(const char *name)
-{
-    return device + QLatin1Char('/') + QLatin1String(name);
-}
-
-} // namespace
-
 /// The All pane, the four user panes and the window in which user tabs are made.
-class tst_UserTabs : public QObject
+class tst_UserTabs : public FeatureTest
 {
     Q_OBJECT
 
@@ -57,25 +45,6 @@ private Q_SLOTS:
     {
         Host::prepareQuick();
         Plugin::Tessera::Internal::View::registerOptionsWindowTypes();
-    }
-
-    void init()
-    {
-        m_guard.begin();
-        QSettings().clear();
-        m_info.reset(new Host::CameraRecord(QStringLiteral("Cam"), QStringLiteral("Model"),
-                                            QStringLiteral("GEV")));
-        m_collection = QSharedPointer<Tests::FakeCollection>::create();
-        m_collection->attach(device,
-                             QStringLiteral("Image\n  Width Integer 640\n  Height Integer 480\n"
-                                            "  Gain Float 1\n"));
-        start();
-    }
-
-    void cleanup()
-    {
-        stop();
-        m_guard.verify();
     }
 
     void opensAndClosesWithItsPane()
@@ -99,9 +68,9 @@ private Q_SLOTS:
     {
         openWindow();
         send("nameChanged", 0, QStringLiteral("R&D"));
-        send("addFeature", 0, path("Gain"));
-        send("addFeature", 0, path("Width"));
-        send("addFeature", 1, path("Height"));
+        send("addFeature", 0, pathOf("Gain"));
+        send("addFeature", 0, pathOf("Width"));
+        send("addFeature", 1, pathOf("Height"));
         send("nameChanged", 3, QStringLiteral("Empty"));
         QVERIFY(dock(1)->isHidden()); // nothing holds before OK
         press("add");
@@ -134,11 +103,11 @@ private Q_SLOTS:
     {
         openWindow();
         send("nameChanged", 0, QStringLiteral("Mine"));
-        send("addFeature", 0, path("Gain"));
+        send("addFeature", 0, pathOf("Gain"));
         press("add");
         openWindow();
         send("nameChanged", 0, QStringLiteral("Other"));
-        send("removeFeature", 0, path("Gain"));
+        send("removeFeature", 0, pathOf("Gain"));
         press("cancel");
         QCOMPARE(rows(1), QStringLiteral("Gain "));
         QCOMPARE(menu()->userTabNames().constFirst(), QStringLiteral("Mine"));
@@ -150,7 +119,7 @@ private Q_SLOTS:
         openWindow();
         send("nameChanged", 0, QStringLiteral("Mine"));
         for (const char *name : {"Gain", "Width", "Height"}) {
-            send("addFeature", 0, path(name));
+            send("addFeature", 0, pathOf(name));
         }
         press("add");
         auto *browser = m_panes.at(1)->findChild<FeatureTreeWidget *>();
@@ -175,6 +144,19 @@ private Q_SLOTS:
     }
 
 private:
+    void prepare() override
+    {
+        QSettings().clear();
+        m_info.reset(new Host::CameraRecord(QStringLiteral("Cam"), QStringLiteral("Model"),
+                                            QStringLiteral("GEV")));
+        attach(QStringLiteral("Image\n  Width Integer 640\n  Height Integer 480\n"
+                              "  Gain Float 1\n"));
+        start();
+    }
+    void release() override
+    {
+        stop();
+    }
     void start()
     {
         m_options.reset(Plugin::Tessera::Internal::View::createOptionsWindow());
@@ -285,7 +267,6 @@ private:
 
     Tests::SettingsFolder m_settings;
     BaseInfoPtr m_info;
-    QSharedPointer<Tests::FakeCollection> m_collection;
     std::unique_ptr<QMainWindow> m_window;
     std::unique_ptr<QQuickView> m_options;
     QSharedPointer<Host::MenuService> m_menuService;
@@ -294,7 +275,6 @@ private:
     QSharedPointer<CFeatureTreeControlService> m_control;
     QSharedPointer<CFeatureTreeUseCaseService> m_useCases;
     std::vector<QPointer<CFeatureTreeWidget>> m_panes; // All, User0 to User3
-    Tests::WarningGuard m_guard;
 };
 
 QTEST_MAIN(tst_UserTabs)

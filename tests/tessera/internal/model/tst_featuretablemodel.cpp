@@ -10,72 +10,27 @@
 #include "internal/legacy/tree/featuretreemodel.h"
 #include "internal/legacy/tree/featuretreeproxymodel.h"
 #include "plugin/constants/itemroles.h"
-#include "support/fakecollection.h"
 #include "support/modeltester.h"
 #include "support/treetext.h"
-#include "support/warningguard.h"
+#include "tessera/featuretest.h"
 
 #include <QApplication>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
-#include <stdexcept>
 
 using Core::Logging::ELogLevel;
 using Plugin::Tessera::Internal::Model::CFeatureTableModel;
 using Tests::Fault;
 using Tests::findRow;
 
-namespace {
-
-const QString path = QStringLiteral("@CameraDevice");
-
-/// A row that cannot be read.
-class BrokenItem final : public FeatureTreeItem
-{
-public:
-    BrokenItem()
-        : FeatureTreeItem(QString(), nullptr, QStringLiteral("Broken"), nullptr, 0)
-    {
-    }
-    QVariant data(int column, int role) const override
-    {
-        if (isBroken) {
-            throw std::runtime_error("no answer");
-        }
-        return FeatureTreeItem::data(column, role);
-    }
-    bool isBroken = true;
-};
-
-} // namespace
-
-class tst_FeatureTableModel : public QObject
+class tst_FeatureTableModel : public FeatureTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_guard.begin();
-        m_collection = QSharedPointer<Tests::FakeCollection>::create();
-        m_tree = std::make_unique<FeatureTreeModel>();
-        m_proxy = std::make_unique<FeatureTreeProxyModel>();
-        m_proxy->setDynamicSortFilter(false);
-        m_table = new CFeatureTableModel(m_proxy.get());
-        m_proxy->setSourceModel(m_table);
-    }
-
-    void cleanup()
-    {
-        m_proxy.reset();
-        m_tree.reset();
-        m_guard.verify();
-    }
-
     void aProxyShowsEachChangeOfRowsOnce()
     {
         const QList<FeatureTreeItem *> features = items(
@@ -94,48 +49,37 @@ private Q_SLOTS:
         m_proxy->setTableItems({}, false);
         QCOMPARE(m_proxy->rowCount(), 0);
         QCOMPARE(removed.count(), 2);
-        QVERIFY(!m_collection->node(path + QStringLiteral("/A")).isSubscribed());
+        QVERIFY(!node("A").isSubscribed());
     }
 
     void aDropMovesARowToAnother_data()
     {
-        QTest::addColumn<QString>("text");
         QTest::addColumn<int>("target");
         QTest::addColumn<int>("column");
-        QTest::addColumn<Qt::DropAction>("action");
-        QTest::addColumn<QString>("order");
-        QTest::addColumn<QList<int>>("signal");
-        const QString b = path + QStringLiteral("/B");
-        const auto move = Qt::MoveAction;
-        QTest::newRow("down") << b << 3 << 0 << move << "ACDB" << QList<int> {1, 3};
-        QTest::newRow("up") << b << 0 << 0 << move << "BACD" << QList<int> {1, 0};
-        QTest::newRow("onto itself") << b << 1 << 0 << move << "ABCD" << QList<int> {1, 1};
-        QTest::newRow("between rows") << b << -1 << 0 << move << "ABCD" << QList<int>();
-        QTest::newRow("onto a value") << b << 3 << 1 << move << "ABCD" << QList<int>();
-        QTest::newRow("copy") << b << 3 << 0 << Qt::CopyAction << "ABCD" << QList<int>();
+        QTest::addColumn<QString>("result");
+        QTest::newRow("down") << 3 << 0 << "ACDB";
+        QTest::newRow("up") << 0 << 0 << "BACD";
+        QTest::newRow("between rows") << -1 << 0 << "ABCD";
+        QTest::newRow("onto a value") << 3 << 1 << "ABCD";
     }
 
     void aDropMovesARowToAnother()
     {
-        QFETCH(const QString, text);
         QFETCH(const int, target);
         QFETCH(const int, column);
-        QFETCH(const Qt::DropAction, action);
-        QFETCH(const QList<int>, signal);
+        QFETCH(const QString, result);
         m_table->setItems(items("  A Integer\n  B Integer\n  C Integer\n  D Integer"), true);
         const Tests::ModelTester tester(m_proxy.get());
         const QPersistentModelIndex b(findRow(*m_proxy, QStringLiteral("B")));
-        QList<int> moved;
-        connect(m_table, &CFeatureTableModel::orderOfItemsChanged, this, [&](int from, int to) {
-            moved = {from, to};
-        });
+        const QSignalSpy moves(m_table, &CFeatureTableModel::orderOfItemsChanged);
         const std::unique_ptr<QMimeData> data(m_proxy->mimeData({b}));
-        QCOMPARE(data->text(), path + QStringLiteral("/B"));
-        data->setText(text);
+        QCOMPARE(data->text(), pathOf("B"));
         const QModelIndex place = m_proxy->index(target, column);
-        QCOMPARE(m_proxy->dropMimeData(data.get(), action, -1, -1, place), !signal.isEmpty());
-        QTEST(order(), "order");
-        QCOMPARE(moved, signal);
+        const bool moved = result != QLatin1String("ABCD");
+        QVERIFY(!m_proxy->dropMimeData(data.get(), Qt::CopyAction, -1, -1, place));
+        QCOMPARE(m_proxy->dropMimeData(data.get(), Qt::MoveAction, -1, -1, place), moved);
+        QCOMPARE(order(), result);
+        QCOMPARE(moves.count(), moved ? 1 : 0);
         QCOMPARE(b.data().toString(), QStringLiteral("B"));
     }
 
@@ -165,9 +109,9 @@ private Q_SLOTS:
     {
         const QList<FeatureTreeItem *> features = items("  A Integer 1");
         const QPointer<FeatureTreeItem> ofTree(features.first());
-        const auto parameter = m_collection->parameter(path + QStringLiteral("/A"));
+        const auto parameter = m_collection->parameter(pathOf("A"));
         const QPointer<FeatureTreeItem> fresh(new FeatureTreeINodeItem(
-            m_collection, parameter, m_table, path + QStringLiteral("/A"), nullptr, true, 0));
+            m_collection, parameter, m_table, pathOf("A"), nullptr, true, 0));
         m_table->setItems({ofTree, fresh}, true);
         QCOMPARE(m_table->index(1, 1).data().toString(), QStringLiteral("1"));
         m_table->setItems({ofTree}, true);
@@ -185,11 +129,10 @@ private Q_SLOTS:
         QVERIFY(!m_table->setData(row("A", 1), 8, Qt::DisplayRole));
         m_table->setActive(false);
         QVERIFY(!m_table->setData(row("A", 1), 7));
-        Tests::FakeNode &node = m_collection->node(path + QStringLiteral("/A"));
-        QVERIFY(node.writes.isEmpty());
+        QVERIFY(node("A").writes.isEmpty());
         m_table->setActive(true);
         QVERIFY(m_table->setData(row("A", 1), 7));
-        QCOMPARE(node.writes, QStringList(QStringLiteral("7")));
+        QCOMPARE(node("A").writes, QStringList(QStringLiteral("7")));
     }
 
     void keepsTheRowOfAnItemThatIsGone()
@@ -203,7 +146,7 @@ private Q_SLOTS:
         m_table->markSearchMatches(QStringLiteral("b"));
         QStringList names;
         QCOMPARE(m_table->itemsForNames(names).size(), 1);
-        QCOMPARE(m_table->indexOfName(path + QStringLiteral("/B"), nullptr, 1).data().toInt(), 2);
+        QCOMPARE(m_table->indexOfName(pathOf("B"), nullptr, 1).data().toInt(), 2);
     }
 
     void marksWhatIsFound()
@@ -223,7 +166,7 @@ private Q_SLOTS:
         QCOMPARE(marked(IsSearchMatchRole), QStringLiteral("GainAnalogGain"));
         m_proxy->markSearchMatches(QStringLiteral("  "));
         QCOMPARE(marked(IsSearchMatchRole), QString());
-        m_proxy->markFavorites({path + QStringLiteral("/gain"), path + QStringLiteral("/Hidden")});
+        m_proxy->markFavorites({pathOf("gain"), pathOf("Hidden")});
         QCOMPARE(marked(IsFavoriteMatchRole), QStringLiteral("Gain"));
     }
 
@@ -239,7 +182,7 @@ private Q_SLOTS:
         m_guard.expectLogEntry(
             ELogLevel::Fault, QStringLiteral("vantrel.viewer.exceptions"),
             QRegularExpression(QStringLiteral("Model::CFeatureTableModel::setData")));
-        m_collection->node(path + QStringLiteral("/A")).onWrite = fault;
+        node("A").onWrite = fault;
         QVERIFY(!m_table->setData(row("A", 1), 7));
         const QWidgetList windows = QApplication::topLevelWidgets();
         const auto box = std::find_if(windows.cbegin(), windows.cend(), [](const QWidget *window) {
@@ -254,29 +197,11 @@ private Q_SLOTS:
         QCOMPARE(row("A", 1).data().toInt(), 5);
     }
 
-    void logsOneFailedReadInARow()
-    {
-        auto *broken = new BrokenItem;
-        m_table->setItems({broken}, true);
-        for (int run = 0; run < 2; ++run) {
-            m_guard.expectLogEntry(
-                ELogLevel::Fault,
-                QStringLiteral("vantrel.viewer.plugins.tessera.featureTableModel"),
-                QRegularExpression(
-                    QStringLiteral("^featuretablemodel [0-9]+ Failed to get a feature value$")));
-            broken->isBroken = true;
-            QVERIFY(!m_table->index(0, 0).data().isValid());
-            QVERIFY(!m_table->index(0, 1).data().isValid());
-            broken->isBroken = false;
-            QVERIFY(m_table->index(0, 0).data(FullNameRole).isValid());
-        }
-    }
-
     void announcesSingleCells()
     {
         m_table->setItems(items("  A Integer 1\n  B Integer 2"), true);
         QSignalSpy changes(m_proxy.get(), &QAbstractItemModel::dataChanged);
-        Tests::FakeNode &b = m_collection->node(path + QStringLiteral("/B"));
+        Tests::FakeNode &b = node("B");
         b.number = 9;
         b.publish();
         QCOMPARE(changes.count(), 2);
@@ -294,11 +219,24 @@ private Q_SLOTS:
     }
 
 private:
+    void prepare() override
+    {
+        m_tree = std::make_unique<FeatureTreeModel>();
+        m_proxy = std::make_unique<FeatureTreeProxyModel>();
+        m_proxy->setDynamicSortFilter(false);
+        m_table = new CFeatureTableModel(m_proxy.get());
+        m_proxy->setSourceModel(m_table);
+    }
+    void release() override
+    {
+        m_proxy.reset();
+        m_tree.reset();
+    }
     // The features of one category, which the tree owns.
     QList<FeatureTreeItem *> items(const char *text)
     {
-        m_collection->attach(path, QLatin1String("Category\n") + QString::fromLatin1(text));
-        m_tree->addParameterCollection(m_collection, QStringLiteral("Camera"), path, true);
+        attach(QLatin1String("Category\n") + QString::fromLatin1(text));
+        m_tree->addParameterCollection(m_collection, QStringLiteral("Camera"), m_path, true);
         FeatureTreeItem *category =
             m_tree->itemFromIndex(findRow(*m_tree, QStringLiteral("Category")));
         QList<FeatureTreeItem *> found;
@@ -322,11 +260,9 @@ private:
         return findRow(*m_table, QString::fromLatin1(name), column);
     }
 
-    QSharedPointer<Tests::FakeCollection> m_collection;
     std::unique_ptr<FeatureTreeModel> m_tree;
     std::unique_ptr<FeatureTreeProxyModel> m_proxy;
     CFeatureTableModel *m_table = nullptr; // by parent
-    Tests::WarningGuard m_guard;
 };
 
 QTEST_MAIN(tst_FeatureTableModel)

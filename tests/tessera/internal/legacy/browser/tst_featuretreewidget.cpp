@@ -8,9 +8,8 @@
 #include "internal/legacy/tree/featuretreeview.h"
 #include "internal/view/featuretableview.h"
 #include "plugin/constants/itemroles.h"
-#include "support/fakecollection.h"
 #include "support/treetext.h"
-#include "support/warningguard.h"
+#include "tessera/featuretest.h"
 
 #include "host/framework/camerarecord.h"
 #include "host/framework/parameterpool.h"
@@ -24,8 +23,6 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QSplitter>
-#include <QTest>
 
 #include <memory>
 
@@ -37,7 +34,6 @@ using Tests::findRow;
 
 namespace {
 
-const QString path = QStringLiteral("@CameraDevice");
 const QString features = QStringLiteral("Image name=Image_Format\n"
                                         "  Width Integer 640 [16..1280] rep=PureNumber\n"
                                         "  Gain Float 1.5 unit=dB expert\n"
@@ -58,35 +54,16 @@ const QString inner = QStringLiteral("Away Mute ") + longName + QLatin1Char(' ')
 
 ParameterName name(const char *shortName)
 {
-    return ParameterName(path + QLatin1Char('/') + QLatin1String(shortName));
+    return ParameterName(QLatin1String("@CameraDevice/") + QLatin1String(shortName));
 }
 
 } // namespace
 
-class tst_FeatureTreeWidget : public QObject
+class tst_FeatureTreeWidget : public FeatureTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_guard.begin();
-        m_collection = QSharedPointer<Tests::FakeCollection>::create();
-        m_collection->attach(path, features);
-        m_info.reset(new Host::CameraRecord(QStringLiteral("Cam"), QStringLiteral("Model"),
-                                            QStringLiteral("GEV")));
-        m_browser = std::make_unique<FeatureTreeWidget>(QString(), m_info, nullptr);
-        m_browser->resize(700, 500);
-        m_browser->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_browser.get()));
-    }
-
-    void cleanup()
-    {
-        m_browser.reset();
-        m_guard.verify();
-    }
-
     void copiesAllFeaturesAsText()
     {
         QCOMPARE(copied(), QString());
@@ -121,10 +98,10 @@ private Q_SLOTS:
                                        "\"@CameraDevice/%1\" from parameter collection")
                             .arg(QLatin1String(name)));
         }
-        m_collection->onParameter.insert(path + QLatin1String("/Width"), fault);
+        m_collection->onParameter.insert(pathOf("Width"), fault);
         node("Gain").onProperty = fault;
-        m_collection->onChildren.insert(path + QLatin1String("/Inner"), fault);
-        node("Empty").children.append(path + QLatin1String("/Image")); // holds itself
+        m_collection->onChildren.insert(pathOf("Inner"), fault);
+        node("Empty").children.append(pathOf("Image")); // holds itself
         node("Other").isNull = true;
         QCOMPARE(copied().simplified(),
                  QStringLiteral("Camera Image Format Empty Image Format Inner"));
@@ -147,35 +124,18 @@ private Q_SLOTS:
         QCOMPARE(shown(), QString());
     }
 
-    void writesWhatTheUserEnters()
-    {
-        add();
-        select("Image Format");
-        table()->setFocus();
-        table()->setCurrentIndex(tableRow("Width", 1));
-        QTest::keyClick(table(), Qt::Key_F2);
-        QWidget *width = QApplication::focusWidget();
-        QVERIFY(width != table());
-        QTest::keyClicks(width, QStringLiteral("800"));
-        QTest::keyClick(width, Qt::Key_Return);
-        QTRY_COMPARE(node("Width").writes, QStringList(QStringLiteral("800")));
-        QTRY_COMPARE(tableRow("Width", 1).data().toString(), QStringLiteral("800"));
-    }
-
     void tellsTheCurrentParameter()
     {
         add();
         QSignalSpy current(
             m_browser.get(),
             qOverload<QSharedPointer<IParameter>>(&FeatureTreeWidget::onCurrentChanged));
-        const auto last = [&current] {
-            return current.takeLast().value(0).value<QSharedPointer<IParameter>>();
-        };
         select("Other");
-        QCOMPARE(last()->fullName(), path + QLatin1String("/Other"));
+        QCOMPARE(m_browser->currentItem()->fullName(), pathOf("Other"));
         table()->setCurrentIndex(tableRow("Far"));
-        QCOMPARE(last()->fullName(), path + QLatin1String("/Far"));
-        QCOMPARE(m_browser->currentItem()->fullName(), path + QLatin1String("/Far"));
+        QCOMPARE(m_browser->currentItem()->fullName(), pathOf("Far"));
+        QCOMPARE(current.takeLast().value(0).value<QSharedPointer<IParameter>>()->fullName(),
+                 pathOf("Far"));
         current.clear();
         widget<QLineEdit>("filterEdit")->setFocus();
         table()->setCurrentIndex(tableRow("Near"));
@@ -217,9 +177,8 @@ private Q_SLOTS:
     {
         add();
         select("Other");
-        m_browser->setUseCases(
-            {{QStringLiteral("Light"), QStringList {path + QLatin1String("/gain")}},
-             {QStringLiteral("Near things"), QStringList {path + QLatin1String("/Near")}}});
+        m_browser->setUseCases({{QStringLiteral("Light"), QStringList {pathOf("gain")}},
+                                {QStringLiteral("Near things"), QStringList {pathOf("Near")}}});
         auto *box = widget<QComboBox>("useCaseComboBox");
         auto *edit = widget<QLineEdit>("useCaseEdit");
         QCOMPARE(box->count(), 3);
@@ -295,10 +254,10 @@ private Q_SLOTS:
     {
         QWidget window;
         const auto second = QSharedPointer<Tests::FakeCollection>::create();
-        second->attach(path, features);
+        second->attach(m_path, features);
         auto *other = new FeatureTreeWidget(QString(), m_info, &window);
         add();
-        other->addParameterCollection(second, QStringLiteral("Second"), path, true);
+        other->addParameterCollection(second, QStringLiteral("Second"), m_path, true);
         m_browser->setParent(&window);
         window.show();
         m_browser->show();
@@ -342,29 +301,6 @@ private Q_SLOTS:
         QCOMPARE(shown(), QString());
     }
 
-    void tellsThatAUserTabHasNoService()
-    {
-        m_browser->setUserTabMode(true);
-        add();
-        for (int entry = 0; entry < 2; ++entry) {
-            expectFault(QStringLiteral("Plugin::CameraPool::IDeviceParameterService not set!"));
-        }
-        m_browser->setFeatureNameList({name("Far"), name("Gone")});
-        QCOMPARE(shown(), QStringLiteral("Far "));
-    }
-
-    void keepsColumnWidthsForTheFirstShow()
-    {
-        FeatureTreeWidget browser(QString(), m_info, nullptr);
-        browser.setUserTabMode(false);
-        browser.setCategoryColumnWidth(123);
-        browser.setFirstSectionSize(77);
-        browser.show();
-        auto *splitter = browser.findChild<QSplitter *>(QStringLiteral("splitter"));
-        QTRY_COMPARE(splitter->sizes().constFirst(), 123);
-        QCOMPARE(browser.tableView()->columnWidth(0), 77);
-    }
-
     void dropsOpenEditorsWhenCleared()
     {
         add();
@@ -384,6 +320,20 @@ private Q_SLOTS:
     }
 
 private:
+    void prepare() override
+    {
+        attach(features);
+        m_info.reset(new Host::CameraRecord(QStringLiteral("Cam"), QStringLiteral("Model"),
+                                            QStringLiteral("GEV")));
+        m_browser = std::make_unique<FeatureTreeWidget>(QString(), m_info, nullptr);
+        m_browser->resize(700, 500);
+        m_browser->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_browser.get()));
+    }
+    void release() override
+    {
+        m_browser.reset();
+    }
     template<typename Widget> Widget *widget(const char *objectName) const
     {
         return m_browser->findChild<Widget *>(QLatin1String(objectName));
@@ -395,10 +345,6 @@ private:
     QTableView *table() const
     {
         return m_browser->tableView();
-    }
-    Tests::FakeNode &node(const char *shortName) const
-    {
-        return m_collection->node(name(shortName).toString());
     }
     QModelIndex treeRow(const char *text) const
     {
@@ -427,7 +373,7 @@ private:
         }
         return text;
     }
-    QString copied()
+    QString copied() const
     {
         m_browser->copyToClipboard();
         return QGuiApplication::clipboard()->text();
@@ -446,13 +392,11 @@ private:
     }
     void add() const
     {
-        m_browser->addParameterCollection(m_collection, QStringLiteral("Camera"), path, true);
+        m_browser->addParameterCollection(m_collection, QStringLiteral("Camera"), m_path, true);
     }
 
-    QSharedPointer<Tests::FakeCollection> m_collection;
     Core::AppCoreComponents::BaseInfoPtr m_info;
     std::unique_ptr<FeatureTreeWidget> m_browser;
-    Tests::WarningGuard m_guard;
 };
 
 QTEST_MAIN(tst_FeatureTreeWidget)

@@ -7,9 +7,7 @@
 #include "plugin/contract/parametercollection/integerparameterdata.h"
 
 #include "internal/legacy/editors/parameteranddata.h"
-#include "support/fakecollection.h"
-
-#include <QTest>
+#include "tessera/featuretest.h"
 
 #include <cmath>
 
@@ -67,49 +65,31 @@ inline void addUnusableSnapshots(const char *foreign, const char *unreadable)
     QTest::newRow("not a number") << Snapshot(floatSnapshot(std::nan(""), 0, 10)) << "";
 }
 
-/// A camera with one parameter of each kind under "@CameraDevice/".
-class EditorCamera final
+/// A test of editors over a camera with one parameter of each kind.
+class EditorTest : public FeatureTest
 {
-public:
-    EditorCamera()
-    {
-        collection->attach(QStringLiteral("@CameraDevice"),
-                           QStringLiteral("Int Integer 5 [0..100]\n"
-                                          "Slider Integer 5 [0..100] rep=Linear\n"
-                                          "Float Float 5 [0..100]\n"
-                                          "ExposureTime Float 5 [0..100] rep=Logarithmic\n"
-                                          "Gain Float 5 [0..100] rep=Linear\n"
-                                          "Alone Float 5 [0..100] rep=Linear\n"
-                                          "Text String hello\n"
-                                          "Switch Boolean 1\n"
-                                          "Choice Enum Off entries=Off,On\n"
-                                          "Go Command\n"
-                                          "ExposureTime/Alias Integer 100 [100..1000000]\n"
-                                          "Gain/Alias Integer 40 [0..1000]\n"));
-    }
+    Q_OBJECT
 
-    Tests::FakeNode &node(const char *name) const
+protected:
+    void prepare() override
     {
-        return collection->node(path(name));
-    }
-
-    QSharedPointer<ParameterCollection::IParameter> parameter(const char *name) const
-    {
-        return collection->parameter(path(name));
+        attach(QStringLiteral("Int Integer 5 [0..100]\n"
+                              "Slider Integer 5 [0..100] rep=Linear\n"
+                              "Float Float 5 [0..100]\n"
+                              "ExposureTime Float 5 [0..100] rep=Logarithmic\n"
+                              "Gain Float 5 [0..100] rep=Linear\n"
+                              "Alone Float 5 [0..100] rep=Linear\n"
+                              "Switch Boolean 1\n"
+                              "Choice Enum Off entries=Off,On\n"
+                              "Go Command\n"
+                              "ExposureTime/Alias Integer 100 [100..1000000]\n"
+                              "Gain/Alias Integer 40 [0..1000]\n"));
     }
 
     ParameterAndData pair(
         const char *name,
         const QSharedPointer<const ParameterCollection::ParameterData> &snapshot) const
     {
-        return {parameter(name), snapshot};
+        return {m_collection->parameter(pathOf(name)), snapshot};
     }
-
-    static QString path(const char *name)
-    {
-        return QStringLiteral("@CameraDevice/") + QString::fromLatin1(name);
-    }
-
-    QSharedPointer<Tests::FakeCollection> collection =
-        QSharedPointer<Tests::FakeCollection>::create();
 };

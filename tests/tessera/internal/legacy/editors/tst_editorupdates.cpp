@@ -12,7 +12,6 @@
 #include "plugin/contract/parametercollection/enumparameterdata.h"
 
 #include "internal/legacy/editors/abstractitemeditor.h"
-#include "support/warningguard.h"
 
 #include <QEvent>
 
@@ -54,21 +53,11 @@ auto enumSnapshot()
 } // namespace
 
 /// What updates cost that change nothing.
-class TestEditorUpdates : public QObject
+class TestEditorUpdates : public EditorTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_guard.begin();
-    }
-
-    void cleanup()
-    {
-        m_guard.verify();
-    }
-
     void unchangedSnapshotsCostNothing_data()
     {
         QTest::addColumn<QSharedPointer<const ParameterData>>("snapshot");
@@ -90,16 +79,15 @@ private Q_SLOTS:
         QFETCH(QSharedPointer<const ParameterData>, snapshot);
         const QString name = QString::fromLatin1(QTest::currentDataTag());
         const QString feature = name.section(QLatin1Char('/'), 0, 0);
-        const EditorCamera camera;
         FeatureTable table;
-        table.show(camera.collection, {feature});
+        table.show(m_collection, {feature});
         QWidget *widget = table.editor(feature);
         auto *editor = dynamic_cast<AbstractItemEditor *>(widget);
         const auto update = [&] {
             if (name == feature) {
-                editor->updateEditor(camera.pair(QTest::currentDataTag(), snapshot));
+                editor->updateEditor(pair(QTest::currentDataTag(), snapshot));
             } else { // reaches its editor by itself
-                camera.node(QTest::currentDataTag()).send(snapshot);
+                node(QTest::currentDataTag()).send(snapshot);
             }
         };
         update();
@@ -117,9 +105,6 @@ private Q_SLOTS:
         widget->update();
         QTRY_VERIFY(counter.work > 0); // the counter does count
     }
-
-private:
-    Tests::WarningGuard m_guard;
 };
 
 QTEST_MAIN(TestEditorUpdates)

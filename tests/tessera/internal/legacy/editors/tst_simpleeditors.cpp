@@ -10,10 +10,8 @@
 #include "internal/legacy/editors/checkboxeditor.h"
 #include "internal/legacy/editors/enumeditor.h"
 #include "internal/legacy/editors/toolbuttoneditor.h"
-#include "support/warningguard.h"
 
 #include <QAbstractItemView>
-#include <QTest>
 
 #include <memory>
 
@@ -43,36 +41,25 @@ auto commandSnapshot(bool isDone)
 
 } // namespace
 
-class TestSimpleEditors : public QObject
+class TestSimpleEditors : public EditorTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_guard.begin();
-        m_camera = std::make_unique<EditorCamera>();
-    }
-
-    void cleanup()
-    {
-        m_guard.verify();
-    }
-
     void checkBoxFollowsItsBoolean()
     {
         CheckBoxEditor editor(nullptr);
         const auto on = liveSnapshot<BooleanParameterData>();
         on->value = true;
-        editor.updateEditor(m_camera->pair("Switch", on));
-        editor.updateEditor(m_camera->pair("Switch", {}));
-        editor.updateEditor(m_camera->pair("Switch", integerSnapshot(0, 0, 1)));
+        editor.updateEditor(pair("Switch", on));
+        editor.updateEditor(pair("Switch", {}));
+        editor.updateEditor(pair("Switch", integerSnapshot(0, 0, 1)));
         QVERIFY(editor.isChecked() && editor.isEnabled());
         QCOMPARE(editor.editorValue(), QVariant(QStringLiteral("1")));
 
         const auto locked = liveSnapshot<BooleanParameterData>();
         locked->isWritable = false;
-        editor.updateEditor(m_camera->pair("Switch", locked));
+        editor.updateEditor(pair("Switch", locked));
         QVERIFY(!editor.isChecked() && !editor.isEnabled());
     }
 
@@ -81,7 +68,7 @@ private Q_SLOTS:
         EnumEditor editor(nullptr);
         const auto locked = enumSnapshot("on");
         locked->isWritable = false;
-        editor.updateEditor(m_camera->pair("Choice", locked));
+        editor.updateEditor(pair("Choice", locked));
         QVERIFY(!editor.isEnabled());
         QCOMPARE(editor.itemText(1), QStringLiteral("Switched on"));
         QCOMPARE(editor.currentText(), QStringLiteral("on")); // without a display name
@@ -90,25 +77,25 @@ private Q_SLOTS:
         m_guard.expectLogEntry(ELogLevel::Fault, enumLog,
                                QStringLiteral(": Choice. No entry in the combo box matches the "
                                               "current value Never"));
-        editor.updateEditor(m_camera->pair("Choice", enumSnapshot("Never")));
+        editor.updateEditor(pair("Choice", enumSnapshot("Never")));
         QCOMPARE(editor.count(), 3);
         QVERIFY(!editor.editorValue().isValid());
         m_guard.expectLogEntry(ELogLevel::Fault, enumLog,
                                QStringLiteral("Choice is called with non-enumeration node????"));
-        editor.updateEditor(m_camera->pair("Choice", {}));
+        editor.updateEditor(pair("Choice", {}));
         QCOMPARE(editor.count(), 0);
     }
 
     void openListIsLeftAlone()
     {
         auto editor = std::make_unique<EnumEditor>(nullptr);
-        editor->updateEditor(m_camera->pair("Choice", enumSnapshot("Off")));
+        editor->updateEditor(pair("Choice", enumSnapshot("Off")));
         editor->show();
         QVERIFY(QTest::qWaitForWindowExposed(editor.get()));
         editor->showPopup();
         const auto other = enumSnapshot("On");
         other->entryNames.removeLast();
-        editor->updateEditor(m_camera->pair("Choice", other));
+        editor->updateEditor(pair("Choice", other));
         QCOMPARE(editor->count(), 3);
         QCOMPARE(editor->currentIndex(), 0);
 
@@ -116,7 +103,7 @@ private Q_SLOTS:
         QTest::keyClick(editor->view(), Qt::Key_Return);
         QCOMPARE(editor->editorValue(), QVariant(QStringLiteral("On")));
         QCOMPARE(editor->count(), 3); // what was dropped does not come back by itself
-        editor->updateEditor(m_camera->pair("Choice", other));
+        editor->updateEditor(pair("Choice", other));
         QCOMPARE(editor->count(), 2);
         editor->showPopup();
         editor.reset(); // harms nothing
@@ -127,27 +114,23 @@ private Q_SLOTS:
         ToolButtonEditor editor(nullptr);
         QVERIFY(!editor.editorValue().isValid()); // before the first snapshot
         QCOMPARE(editor.text(), QStringLiteral("Execute"));
-        editor.updateEditor(m_camera->pair("Go", commandSnapshot(true)));
+        editor.updateEditor(pair("Go", commandSnapshot(true)));
         QVERIFY(!editor.isChecked());
         editor.click();
         QCOMPARE(editor.editorValue(), QVariant(QStringLiteral("1")));
-        QCOMPARE(m_camera->node("Go").refreshes, 1);
-        QCOMPARE(m_camera->node("Go").executions, 0);
+        QCOMPARE(node("Go").refreshes, 1);
+        QCOMPARE(node("Go").executions, 0);
 
-        editor.updateEditor(m_camera->pair("Go", commandSnapshot(false)));
+        editor.updateEditor(pair("Go", commandSnapshot(false)));
         QVERIFY(editor.isChecked());
         m_guard.expectLogEntry(ELogLevel::Fault, buttonLog,
                                QStringLiteral(" is called with non-command node????"));
-        editor.updateEditor(m_camera->pair("Int", commandSnapshot(true)));
+        editor.updateEditor(pair("Int", commandSnapshot(true)));
         QVERIFY(editor.isChecked());
         editor.click();
-        m_camera->node("Go").onRefresh = Tests::Fault::Unknown;
+        node("Go").onRefresh = Tests::Fault::Unknown;
         QVERIFY(!editor.editorValue().isValid());
     }
-
-private:
-    Tests::WarningGuard m_guard;
-    std::unique_ptr<EditorCamera> m_camera;
 };
 
 QTEST_MAIN(TestSimpleEditors)

@@ -2,24 +2,15 @@
 // SPDX-License-Identifier: MIT
 
 #include "internal/legacy/tree/displaynamecache.h"
+
 #include "support/settingsfolder.h"
-#include "support/warningguard.h"
+#include "tessera/featuretest.h"
 
-#include <QTest>
-
-class tst_DisplayNameCache : public QObject
+class tst_DisplayNameCache : public FeatureTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_guard.begin();
-    }
-    void cleanup()
-    {
-        m_guard.verify();
-    }
     void readsWhatIsWellFormed()
     {
         QSettings().setValue(m_key, QStringLiteral("r1:b;c;d:e:f;g:h;r2:x;r2:y;"));
@@ -49,7 +40,6 @@ private Q_SLOTS:
 private:
     Tests::SettingsFolder m_settings;
     const QString m_key = QStringLiteral("Tessera/DisplayNameCache");
-    Tests::WarningGuard m_guard;
 };
 
 QTEST_GUILESS_MAIN(tst_DisplayNameCache)

@@ -5,14 +5,12 @@
 
 #include "internal/legacy/tree/featuretreeproxymodel.h"
 #include "plugin/constants/itemroles.h"
-
-#include "support/warningguard.h"
+#include "tessera/featuretest.h"
 
 #include <QApplication>
 #include <QPainter>
 #include <QStandardItemModel>
 #include <QStyle>
-#include <QTest>
 #include <QTreeView>
 
 #include <memory>
@@ -37,28 +35,11 @@ int count(const QImage &image, QRect part, const QColor &color)
 
 } // namespace
 
-class tst_FeatureNamePainter : public QObject
+class tst_FeatureNamePainter : public FeatureTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_guard.begin();
-        m_model.clear();
-        m_model.appendRow({new QStandardItem(QStringLiteral("Exposure Time")), new QStandardItem});
-        m_searchText.clear();
-        m_scale = m_view.logicalDpiX() / 96;
-        m_rect = QRect(80, 0, 240 * m_scale, 30);
-        m_delegate = std::make_unique<FeatureTreeDelegate>(&m_view, &m_proxy, &m_searchText);
-        setRole(DepthRole, 1);
-        setRole(RelativePathRole, QStringLiteral("ExposureTimeAbs"));
-    }
-
-    void cleanup()
-    {
-        m_guard.verify();
-    }
     void fillsTheRowByItsMarks_data()
     {
         QTest::addColumn<bool>("isCategory");
@@ -170,6 +151,17 @@ private Q_SLOTS:
     }
 
 private:
+    void prepare() override
+    {
+        m_model.clear();
+        m_model.appendRow({new QStandardItem(QStringLiteral("Exposure Time")), new QStandardItem});
+        m_searchText.clear();
+        m_scale = m_view.logicalDpiX() / 96;
+        m_rect = QRect(80, 0, 240 * m_scale, 30);
+        m_delegate = std::make_unique<FeatureTreeDelegate>(&m_view, &m_proxy, &m_searchText);
+        setRole(DepthRole, 1);
+        setRole(RelativePathRole, QStringLiteral("ExposureTimeAbs"));
+    }
     QImage paint(QStyle::State state = QStyle::State_Enabled)
     {
         QImage image(160 + 240 * m_scale, 30, QImage::Format_RGB32);
@@ -199,7 +191,6 @@ private:
     std::unique_ptr<FeatureTreeDelegate> m_delegate;
     QRect m_rect;
     int m_scale = 1; // 2 at 192 dpi
-    Tests::WarningGuard m_guard;
 };
 
 QTEST_MAIN(tst_FeatureNamePainter)

@@ -10,9 +10,8 @@
 #include "internal/legacy/tree/featuretreeinodeitem.h"
 #include "internal/legacy/tree/featuretreemodel.h"
 #include "plugin/contract/viewer/stylehelper.h"
-#include "support/fakecollection.h"
 #include "support/treetext.h"
-#include "support/warningguard.h"
+#include "tessera/featuretest.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
@@ -21,7 +20,6 @@
 #include <QPointer>
 #include <QScreen>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTreeView>
 
 #include <memory>
@@ -30,35 +28,11 @@ using Core::Logging::ELogLevel;
 using Tests::Fault;
 using Tests::findRow;
 
-class tst_FeatureTreeDelegate : public QObject
+class tst_FeatureTreeDelegate : public FeatureTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_guard.begin();
-        m_collection = QSharedPointer<Tests::FakeCollection>::create();
-        m_model = std::make_unique<FeatureTreeModel>();
-        m_view = std::make_unique<QTreeView>();
-        m_view->setLocale(QLocale::c());
-        m_delegate = new FeatureTreeDelegate(m_view.get(), m_model.get(), &m_searchText);
-        m_view->setItemDelegate(m_delegate);
-        m_view->setModel(m_model.get());
-        m_view->setEditTriggers(QAbstractItemView::DoubleClicked);
-        m_view->resize(600, 300);
-        m_view->show();
-        m_view->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_view.get()));
-    }
-
-    void cleanup()
-    {
-        m_view.reset();
-        m_model.reset();
-        m_guard.verify();
-    }
-
     void choosesTheEditor_data()
     {
         QTest::addColumn<QString>("lines");
@@ -206,12 +180,30 @@ private Q_SLOTS:
     }
 
 private:
+    void prepare() override
+    {
+        m_model = std::make_unique<FeatureTreeModel>();
+        m_view = std::make_unique<QTreeView>();
+        m_view->setLocale(QLocale::c());
+        m_delegate = new FeatureTreeDelegate(m_view.get(), m_model.get(), &m_searchText);
+        m_view->setItemDelegate(m_delegate);
+        m_view->setModel(m_model.get());
+        m_view->setEditTriggers(QAbstractItemView::DoubleClicked);
+        m_view->resize(600, 300);
+        m_view->show();
+        m_view->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_view.get()));
+    }
+    void release() override
+    {
+        m_view.reset();
+        m_model.reset();
+    }
     // Shows the features; the first is "F" and has been read.
     void add(const QString &lines)
     {
-        m_collection->attach(QStringLiteral("@CameraDevice"), lines);
-        m_model->addParameterCollection(m_collection, QStringLiteral("Camera"),
-                                        QStringLiteral("@CameraDevice"), true);
+        attach(lines);
+        m_model->addParameterCollection(m_collection, QStringLiteral("Camera"), m_path, true);
         m_view->expandAll();
         m_view->setColumnWidth(0, 200);
         if (auto *feature = item()) {
@@ -243,17 +235,11 @@ private:
     {
         return qobject_cast<FeatureTreeINodeItem *>(m_model->itemFromIndex(index()));
     }
-    Tests::FakeNode &node() const
-    {
-        return m_collection->node(QStringLiteral("@CameraDevice/F"));
-    }
 
-    QSharedPointer<Tests::FakeCollection> m_collection;
     std::unique_ptr<FeatureTreeModel> m_model;
     std::unique_ptr<QTreeView> m_view;
     FeatureTreeDelegate *m_delegate = nullptr; // by parent
     QString m_searchText;
-    Tests::WarningGuard m_guard;
 };
 
 QTEST_MAIN(tst_FeatureTreeDelegate)

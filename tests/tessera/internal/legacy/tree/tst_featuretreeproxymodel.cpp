@@ -8,15 +8,9 @@
 
 #include "internal/legacy/tree/featuretreeitem.h"
 #include "internal/legacy/tree/featuretreemodel.h"
-#include "plugin/constants/itemroles.h"
-#include "plugin/contract/parametercollection/parameter.h"
-#include "support/fakecollection.h"
 #include "support/modeltester.h"
 #include "support/treetext.h"
-#include "support/warningguard.h"
-
-#include <QStandardItemModel>
-#include <QTest>
+#include "tessera/featuretest.h"
 
 #include <memory>
 
@@ -24,8 +18,6 @@ using Tests::findRow;
 using Tests::treeText;
 
 namespace {
-
-const QString path = QStringLiteral("@CameraDevice");
 
 const char *const camera = "Image\n"
                            "  Width Integer 640\n"
@@ -47,27 +39,11 @@ QStringList list(const char *names)
 
 } // namespace
 
-class tst_FeatureTreeProxyModel : public QObject
+class tst_FeatureTreeProxyModel : public FeatureTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_guard.begin();
-        m_collection = QSharedPointer<Tests::FakeCollection>::create();
-        m_proxy = std::make_unique<FeatureTreeProxyModel>();
-        m_source = new FeatureTreeModel(m_proxy.get());
-        m_proxy->setSourceModel(m_source);
-        m_proxy->setDynamicSortFilter(false);
-    }
-
-    void cleanup()
-    {
-        m_proxy.reset();
-        m_guard.verify();
-    }
-
     void keepsCategoriesThatHoldAShownFeature_data()
     {
         QTest::addColumn<int>("level");
@@ -103,27 +79,6 @@ private Q_SLOTS:
         QCOMPARE(treeText(*m_proxy).remove(QStringLiteral(": <not implemented>")), expected);
     }
 
-    void listsFeaturesOverAnotherModel()
-    {
-        QStandardItemModel features;
-        const auto append = [&](const char *name, bool isCategory, int visibility) {
-            auto *item = new QStandardItem(QString::fromLatin1(name));
-            item->setData(QString::fromLatin1(name), FullNameRole);
-            item->setData(isCategory, IsCategoryRole);
-            item->setData(visibility, VisibilityRole);
-            item->setData(true, IsAvailableRole);
-            features.appendRow(item);
-        };
-        append("Feature", false, 0);
-        append("Category", true, 0);
-        append("Secret", false, 2);
-        m_proxy->setSourceModel(&features);
-        m_proxy->setVisibility(1);
-        m_proxy->invalidate();
-        QCOMPARE(treeText(*m_proxy), QStringLiteral("Feature\n"));
-        m_proxy->setSourceModel(m_source);
-    }
-
     void filtersAgainOnlyWhenTold()
     {
         add(camera);
@@ -137,7 +92,7 @@ private Q_SLOTS:
 
     void letsEverythingPassWhileACollectionIsAdded()
     {
-        m_proxy->setFeatureNameFilter({QStringLiteral("@CameraDevice/Nothing")});
+        m_proxy->setFeatureNameFilter({pathOf("Nothing")});
         QVector<int> rows;
         connect(m_proxy.get(), &QAbstractItemModel::layoutChanged, this,
                 [&] { rows.append(m_proxy->rowCount()); });
@@ -153,44 +108,29 @@ private Q_SLOTS:
         const QModelIndex second = findRow(*m_proxy, QStringLiteral("Second"), 1);
         QCOMPARE(second.row(), 0);
         FeatureTreeItem *item = m_proxy->itemFromIndex(second);
-        QCOMPARE(item->text(), QStringLiteral("Second"));
         QCOMPARE(m_proxy->createItemIndex(item, 1), second);
         QCOMPARE(m_proxy->indexOfItem(item, nullptr, 1), second);
-        QCOMPARE(m_proxy->indexOfName(QStringLiteral("@CameraDevice/Second"), nullptr, 1), second);
-        QCOMPARE(m_proxy->indexOfRoleValue(ShortNameRole, QStringLiteral("Second"), nullptr, 1),
-                 second);
-        QVERIFY(!m_proxy->indexOfName(QStringLiteral("@CameraDevice/First"), nullptr, 0).isValid());
-        QStringList names {QStringLiteral("@CameraDevice/B"), QStringLiteral("@CameraDevice/None")};
-        const QList<FeatureTreeItem *> found = m_proxy->itemsForNames(names);
-        QCOMPARE(found.size(), 1);
-        QCOMPARE(names, QStringList(QStringLiteral("@CameraDevice/None")));
+        QCOMPARE(m_proxy->indexOfName(pathOf("Second"), nullptr, 1), second);
+        QVERIFY(!m_proxy->indexOfName(pathOf("First"), nullptr, 0).isValid());
     }
 
     void pollsWhatTheNameFilterShows()
     {
         add("Image\n  Width Integer 1\n  Height Integer 1");
-        const QString width = QStringLiteral("@CameraDevice/Width");
-        m_proxy->pollNodes({QStringLiteral("@CameraDevice/Height")});
+        const QString width = pathOf("Width");
+        m_proxy->pollNodes({pathOf("Height")});
         QCOMPARE(m_collection->batchUpdates, 1);
         m_proxy->setFeatureNameFilter({width});
-        m_proxy->pollNodes({QStringLiteral("@CameraDevice/Height")});
+        m_proxy->pollNodes({pathOf("Height")});
         QCOMPARE(m_collection->batchUpdates, 1);
         QCOMPARE(m_collection->node(width).invalidations, 1);
-        QCOMPARE(m_collection->node(QStringLiteral("@CameraDevice/Height")).invalidations, 0);
-    }
-
-    void keepsTheRulesOfItemModels_data()
-    {
-        QTest::addColumn<bool>("showTreeView");
-        QTest::newRow("two levels") << false;
-        QTest::newRow("whole tree") << true;
+        QCOMPARE(node("Height").invalidations, 0);
     }
 
     void keepsTheRulesOfItemModels()
     {
-        QFETCH(bool, showTreeView);
         const Tests::ModelTester tester(m_proxy.get());
-        m_source->setShowTreeView(showTreeView);
+        m_source->setShowTreeView(true);
         add("Image\n  Width Integer 1\n  Format\n    Pixel Integer 1\nTiming\n  Line Enum A "
             "entries=A,B\n  Deep\n    Deeper\n      Rate Float 1");
         treeText(tester);
@@ -199,29 +139,38 @@ private Q_SLOTS:
             m_proxy->invalidate();
             treeText(tester);
         }
-        m_proxy->setFeatureNameFilter({QStringLiteral("@CameraDevice/Rate")});
+        m_proxy->setFeatureNameFilter({pathOf("Rate")});
         QVERIFY(!treeText(tester).contains(QLatin1String("Image")));
         m_proxy->setFeatureNameFilter({});
         m_proxy->markSearchMatches(QStringLiteral("pixel"));
-        m_source->setShowTreeView(!showTreeView);
+        m_source->setShowTreeView(false);
         QVERIFY(treeText(tester).contains(QLatin1String("Image")));
         m_proxy->clear();
         QCOMPARE(treeText(tester), QString());
-        m_proxy->addParameterCollection(m_collection, QStringLiteral("Again"), path, true);
+        m_proxy->addParameterCollection(m_collection, QStringLiteral("Again"), m_path, true);
         QVERIFY(treeText(tester).contains(QLatin1String("Timing")));
     }
 
 private:
+    void prepare() override
+    {
+        m_proxy = std::make_unique<FeatureTreeProxyModel>();
+        m_source = new FeatureTreeModel(m_proxy.get());
+        m_proxy->setSourceModel(m_source);
+        m_proxy->setDynamicSortFilter(false);
+    }
+    void release() override
+    {
+        m_proxy.reset();
+    }
     void add(const char *text)
     {
-        m_collection->attach(path, QString::fromLatin1(text));
-        m_proxy->addParameterCollection(m_collection, QStringLiteral("Camera"), path, true);
+        attach(QString::fromLatin1(text));
+        m_proxy->addParameterCollection(m_collection, QStringLiteral("Camera"), m_path, true);
     }
 
-    QSharedPointer<Tests::FakeCollection> m_collection;
     std::unique_ptr<FeatureTreeProxyModel> m_proxy;
     FeatureTreeModel *m_source = nullptr; // by parent
-    Tests::WarningGuard m_guard;
 };
 
 QTEST_MAIN(tst_FeatureTreeProxyModel)
