@@ -336,16 +336,6 @@ private Q_SLOTS:
         }
     }
 
-    void handsWidthsAndPollingToTheNextBrowser()
-    {
-        addCamera(QStringLiteral("One"));
-        shown()->tableView()->horizontalHeader()->resizeSection(0, 91);
-        shown()->findChild<QCheckBox *>(QStringLiteral("checkBoxPolling"))->click();
-        addCamera(QStringLiteral("Two"));
-        QCOMPARE(shown()->tableView()->columnWidth(0), 91);
-        QVERIFY(shown()->findChild<QCheckBox *>(QStringLiteral("checkBoxPolling"))->isChecked());
-    }
-
     void keepsTheMenuEntryInStepWithItsDock()
     {
         QMenu windowMenu;

@@ -201,24 +201,6 @@ private Q_SLOTS:
         QVERIFY(!tableRow("Gain [dB]").data(IsFavoriteMatchRole).toBool());
     }
 
-    void hidesWhatIsAboveTheLevel()
-    {
-        QSignalSpy taken(m_browser.get(), &FeatureTreeWidget::visibilityChanged);
-        const auto setLevel = [this](int level) {
-            return QMetaObject::invokeMethod(m_browser.get(), "onVisibilityChanged",
-                                             Q_ARG(int, level));
-        };
-        add();
-        select("Image Format");
-        QVERIFY(setLevel(GenApi::Beginner));
-        QCOMPARE(shown(), inner + QLatin1String("Width "));
-        QVERIFY(setLevel(GenApi::Expert));
-        QCOMPARE(shown(), inner + QLatin1String("Width Gain [dB] "));
-        QVERIFY(setLevel(4) && setLevel(-1));
-        QCOMPARE(taken.count(), 2);
-        QCOMPARE(taken.value(1).value(0).value<GenApi::EVisibility>(), GenApi::Expert);
-    }
-
     void pollsWhileTheBoxIsChecked()
     {
         add();
