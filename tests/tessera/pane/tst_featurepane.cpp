@@ -26,12 +26,9 @@
 #include "host/framework/sourcerecord.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QClipboard>
 #include <QDrag>
-#include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
 #include <QSettings>
@@ -192,19 +189,6 @@ private Q_SLOTS:
         collection(second).attach(QStringLiteral("@Later"), QString());
         m_control->registerParameterSource(second);
         QCOMPARE(treeShown(), QStringLiteral("Two\n  Image\nLater\n"));
-    }
-
-    void logsWhatItIsNotGiven()
-    {
-        for (const char *text : {"Info", "Info", "ParameterCollection", "ParameterCollection"}) {
-            m_guard.expectLogEntry(ELogLevel::Fault, category,
-                                   QStringLiteral("%1 is null.").arg(QLatin1String(text)));
-        }
-        m_control->registerParameterSource({});
-        m_control->unregisterParameterSource({});
-        m_control->registerParameterSource(source("Device"));
-        m_pane->onParameterCollectionAttached(device);
-        QVERIFY(!shown());
     }
 
     void followsTheActiveSource()

@@ -18,7 +18,6 @@
 #include "host/framework/quick.h"
 #include "host/framework/windowservice.h"
 
-#include <QAction>
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QPushButton>
@@ -112,24 +111,6 @@ private Q_SLOTS:
         QCOMPARE(rows(1), QStringLiteral("Gain "));
         QCOMPARE(menu()->userTabNames().constFirst(), QStringLiteral("Mine"));
         QCOMPARE(menu()->featureNameList(0).size(), 1);
-    }
-
-    void aMovedFavouriteStaysMoved()
-    {
-        openWindow();
-        send("nameChanged", 0, QStringLiteral("Mine"));
-        for (const char *name : {"Gain", "Width", "Height"}) {
-            send("addFeature", 0, pathOf(name));
-        }
-        press("add");
-        auto *browser = m_panes.at(1)->findChild<FeatureTreeWidget *>();
-        browser->tableView()->setCurrentIndex(browser->tableView()->model()->index(2, 0));
-        browser->findChild<QAction *>(QStringLiteral("actionMoveFavouriteUp"))->trigger();
-        QCOMPARE(rows(1), QStringLiteral("Gain Height Width "));
-        openWindow();
-        press("cancel");
-        restart();
-        QCOMPARE(rows(1), QStringLiteral("Gain Height Width "));
     }
 
     void worksWithoutTheScene()

@@ -7,7 +7,7 @@
 #include "plugin/contract/appcore/actioncommand.h"
 #include "plugin/contract/appcore/menuservice.h"
 #include "plugin/contract/appcore/windowservice.h"
-#include "plugin/contract/core/localizedplugin.h"
+#include "plugin/contract/core/plugin.h"
 #include "plugin/contract/core/plugininfoservice.h"
 #include "plugin/contract/viewer/featuretreecontrolservice.h"
 #include "plugin/contract/viewer/featuretreestatusservice.h"

@@ -6,7 +6,6 @@
 
 #include "tessera/internal/view/featuretable.h"
 
-#include "internal/legacy/tree/featuretreeinodeitem.h"
 #include "internal/view/treeviewheaderview.h"
 #include "support/treetext.h"
 #include "tessera/featuretest.h"

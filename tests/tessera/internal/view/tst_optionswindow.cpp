@@ -4,14 +4,11 @@
 #include "internal/view/optionswindow.h"
 
 #include "internal/view/featureoptionsmenu.h"
-#include "internal/view/standardiconprovider.h"
 #include "tessera/featuretest.h"
 
 #include <QAccessible>
 #include <QQmlComponent>
-#include <QQmlEngine>
 #include <QQuickView>
-#include <QScreen>
 #include <QSignalSpy>
 
 #include <map>

@@ -15,13 +15,11 @@
 #include "host/framework/parameterpool.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPointer>
-#include <QPushButton>
 #include <QSignalSpy>
 
 #include <memory>

@@ -55,42 +55,14 @@ private Q_SLOTS:
         QCOMPARE(picture(m_search), empty);
     }
 
-    void colours_data()
+    void staysLightOnADarkSystem()
     {
-        QTest::addColumn<QColor>("button"); // of the application
-        QTest::addColumn<bool>("follows");
-        QTest::newRow("light system") << QColor(0xd0, 0xff, 0xd0) << true;
-        QTest::newRow("dark system") << QColor(0x35, 0x35, 0x35) << false;
-    }
-    void colours()
-    {
-        QFETCH(const QColor, button);
-        QFETCH(const bool, follows);
         const QPalette before = QApplication::palette();
-        QApplication::setPalette(QPalette(button));
-        const QColor ground = background(m_search);
-        const QColor groundOfUseCase = background(m_useCase);
-        const QColor text = m_search->palette().color(QPalette::Text);
-        QCOMPARE(m_useCase->palette().color(QPalette::Text), text);
+        QApplication::setPalette(QPalette(QColor(0x35, 0x35, 0x35)));
+        QVERIFY(background(m_search).lightness() > 200);
+        QVERIFY(m_search->palette().color(QPalette::Text).lightness() < 50);
+        QCOMPARE(background(m_useCase), QColor(255, 216, 147));
         QApplication::setPalette(before);
-        QCOMPARE(ground == button, follows);
-        QVERIFY(ground.lightness() > 200 && text.lightness() < 50);
-        QCOMPARE(groundOfUseCase, QColor(255, 216, 147));
-    }
-
-    void searchPaintsInTheApplicationsFontAndThenRests()
-    {
-        QFont large = QApplication::font("QLineEdit");
-        large.setPixelSize(26);
-        m_search->setFont(large);
-        m_paints = 0;
-        m_search->installEventFilter(this);
-        m_search->update();
-        for (int round = 0; round < 50; ++round) {
-            QCoreApplication::processEvents();
-        }
-        QCOMPARE(m_search->font(), QApplication::font("QLineEdit"));
-        QVERIFY2(m_paints > 0 && m_paints < 10, qPrintable(QString::number(m_paints)));
     }
 
     void helpStandsInTheEmptyLineOnly()
@@ -131,13 +103,6 @@ private Q_SLOTS:
         QCOMPARE(m_useCase->text(), name);
     }
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        m_paints += event->type() == QEvent::Paint ? 1 : 0;
-        return QObject::eventFilter(watched, event);
-    }
-
 private:
     static QImage picture(QLineEdit *edit)
     {
@@ -165,7 +130,6 @@ private:
     std::unique_ptr<QWidget> m_window;
     SearchEdit *m_search = nullptr; // by parent
     CUseCaseEdit *m_useCase = nullptr; // by parent
-    int m_paints = 0;
 };
 
 QTEST_MAIN(TestLineEdits)

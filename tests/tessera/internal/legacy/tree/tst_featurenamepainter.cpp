@@ -7,7 +7,6 @@
 #include "plugin/constants/itemroles.h"
 #include "tessera/featuretest.h"
 
-#include <QApplication>
 #include <QPainter>
 #include <QStandardItemModel>
 #include <QStyle>

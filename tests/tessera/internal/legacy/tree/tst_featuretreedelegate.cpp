@@ -6,20 +6,16 @@
 
 #include "internal/legacy/tree/featuretreedelegate.h"
 
-#include "internal/legacy/editors/checkboxeditor.h"
 #include "internal/legacy/tree/featuretreeinodeitem.h"
 #include "internal/legacy/tree/featuretreemodel.h"
 #include "plugin/contract/viewer/stylehelper.h"
 #include "support/treetext.h"
 #include "tessera/featuretest.h"
 
-#include <QAbstractSpinBox>
 #include <QApplication>
-#include <QComboBox>
 #include <QLineEdit>
 #include <QPointer>
 #include <QScreen>
-#include <QSignalSpy>
 #include <QTreeView>
 
 #include <memory>
@@ -63,44 +59,6 @@ private Q_SLOTS:
         QCOMPARE(QByteArray(made ? made->metaObject()->className() : ""), editor);
         QVERIFY(
             !m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), QModelIndex()));
-    }
-
-    void writesWhatTheUserDoes_data()
-    {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QString>("keys");
-        QTest::addColumn<QString>("value");
-        const auto row = [](const char *name, const char *line, const char *keys,
-                            const char *value) {
-            QTest::newRow(name) << QString::fromLatin1(line) << QString::fromLatin1(keys)
-                                << QString::fromLatin1(value);
-        };
-        row("switch", "F Boolean 0", " ", "1");
-        row("enumeration", "F Enum A entries=A,B,C", "b", "B");
-        row("command", "F Command", " ", "Done");
-        row("float", "F Float 4 [0..9]", "7", "7");
-        row("text", "F String a", "b", "b");
-    }
-
-    void writesWhatTheUserDoes()
-    {
-        QFETCH(QString, line);
-        QFETCH(QString, keys);
-        QFETCH(QString, value);
-        add(line);
-        const QWidget *editor = open();
-        QVERIFY(editor);
-        QWidget *focus = QApplication::focusWidget();
-        QVERIFY(focus && (focus == editor || editor->isAncestorOf(focus)));
-        if (auto *edit = qobject_cast<QLineEdit *>(focus)) {
-            edit->selectAll();
-        } else if (auto *box = qobject_cast<QAbstractSpinBox *>(focus)) {
-            box->selectAll();
-        }
-        QTest::keyClicks(focus, keys);
-        QTest::keyClick(focus, Qt::Key_Return);
-        QCOMPARE(node().executions, editor->inherits("ToolButtonEditor") ? 1 : 0);
-        QTRY_COMPARE(node().valueText(), value);
     }
 
     void writesNoTextThatStandsForAValue()

@@ -10,7 +10,6 @@
 #include "plugin/contract/parametercollection/stringparameterdata.h"
 #include "tessera/featuretest.h"
 
-#include <QBrush>
 #include <QPointer>
 #include <QSignalSpy>
 

@@ -1,11 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Tessera contributors
 // SPDX-License-Identifier: MIT
 
-#include "internal/legacy/tree/featuretreemodel.h"
-
 #include "internal/legacy/tree/featuretreeproxymodel.h"
 #include "internal/legacy/tree/featuretreeview.h"
-#include "support/treetext.h"
 #include "tessera/featuretest.h"
 
 #include <QElapsedTimer>

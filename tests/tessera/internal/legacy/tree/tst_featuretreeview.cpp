@@ -11,7 +11,6 @@
 #include "tessera/featuretest.h"
 
 #include <QApplication>
-#include <QLineEdit>
 #include <QSignalSpy>
 
 #include <memory>
@@ -23,19 +22,6 @@ class tst_FeatureTreeView : public FeatureTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void takesALevelOnceForEachModel()
-    {
-        add("Image\n  Width Integer 1");
-        m_view->setVisibility(GenApi::Expert);
-        QCOMPARE(m_collection->batchUpdates, 1);
-        m_view->setVisibility(GenApi::Expert);
-        QCOMPARE(m_collection->batchUpdates, 1);
-        FeatureTreeView other;
-        other.setVisibility(GenApi::Expert);
-        m_view->setVisibility(GenApi::Expert);
-        QCOMPARE(m_collection->batchUpdates, 2);
-    }
-
     void reportsNoCurrentRowWhenItIsHidden()
     {
         showFeatures("Width Integer 1\nTiles Integer 1 guru");
@@ -113,35 +99,6 @@ private Q_SLOTS:
             m_features->itemFromIndex(m_features->index(0, 0)));
         m_features->loadChildren(top, top->parameter());
         QVERIFY(editor("Mode"));
-    }
-
-    void survivesUnpluggingWhileAValueIsEdited_data()
-    {
-        QTest::addColumn<QString>("line");
-        QTest::newRow("text") << "F String old";
-        QTest::newRow("float") << "F Float 5 [0..9]";
-    }
-
-    void survivesUnpluggingWhileAValueIsEdited()
-    {
-        QFETCH(QString, line);
-        showFeatures(line.toLatin1().constData());
-        receive("F");
-        m_view->setCurrentIndex(value("F"));
-        m_view->edit(value("F"));
-        QVERIFY(editor("F"));
-        editor("F")->setFocus();
-        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("3"));
-        node("F").isNull = true;
-        node("F").onWrite = Tests::Fault::GenICam;
-        node("F").onRefresh = Tests::Fault::GenICam;
-        node("F").writes.clear();
-        QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("4"));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        QVERIFY(node("F").writes.isEmpty());
-        m_view->setModel(nullptr);
-        m_features->clear();
-        QTRY_VERIFY(m_view->viewport()->findChildren<QLineEdit *>().isEmpty());
     }
 
     void saysWhenThereIsNothingToShow()
