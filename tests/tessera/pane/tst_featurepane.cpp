@@ -183,6 +183,7 @@ private Q_SLOTS:
         const BaseInfoPtr second = addCamera(QStringLiteral("Two"));
         m_control->unregisterParameterSource(first); // not even the one shown
         QVERIFY(!shown());
+        QCOMPARE(m_pane->findChildren<FeatureTreeWidget *>().size(), 1);
         m_control->setActiveParameterSource(second);
         QCOMPARE(rootShown(), QStringLiteral("Two"));
         m_control->unregisterParameterSource(second);
@@ -286,8 +287,10 @@ private Q_SLOTS:
         row("not a number", user, "FeatureColumnWidth1=wide; Polling=1",
             "FeatureColumnWidth1=0; Polling=true", "Features – ");
         row("Basic", basic,
-            "UserTabFeatureNameListTessera.Widget.Basic=@CameraDevice/Height,@Gone/X",
-            "UserTabFeatureNameListTessera.Widget.Basic=@CameraDevice/Height,@CameraDevice/Width");
+            "UserTabFeatureNameListTessera.Widget.Basic=@CameraDevice/Height,@Gone/X; "
+            "FeatureColumnWidthTessera.Widget.Basic=77",
+            "UserTabFeatureNameListTessera.Widget.Basic=@CameraDevice/Height,@CameraDevice/Width; "
+            "FeatureColumnWidthTessera.Widget.Basic=77");
         row("All", all, "CategoryColumnWidth=99; ConnectedFeatureColumnWidth=88",
             "CategoryColumnWidth=99; ConnectedFeatureColumnWidth=88");
     }

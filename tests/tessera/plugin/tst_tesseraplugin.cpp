@@ -8,7 +8,6 @@
 #include "plugin/contract/appcore/menuservice.h"
 #include "plugin/contract/appcore/windowservice.h"
 #include "plugin/contract/core/plugin.h"
-#include "plugin/contract/core/plugininfoservice.h"
 #include "plugin/contract/viewer/featuretreecontrolservice.h"
 #include "plugin/contract/viewer/featuretreestatusservice.h"
 #include "plugin/services/servicelookup.h"
@@ -17,6 +16,7 @@
 #include "support/warningguard.h"
 
 #include "host/framework/parameterpool.h"
+#include "host/framework/plugincatalogue.h"
 #include "host/framework/quick.h"
 #include "host/framework/serviceregistry.h"
 
@@ -147,20 +147,6 @@ private:
     Trap *m_trap; // borrowed
 };
 
-class Plugins final : public Core::Plugin::IPluginInfoService
-{
-public:
-    Plugins()
-        : IPluginInfoService(nullptr)
-    {
-    }
-    bool isPluginAvailable(const QString &name) const override
-    {
-        return isWorkbenchOffered && name == QLatin1String("Workbench");
-    }
-    bool isWorkbenchOffered = true;
-};
-
 } // namespace
 
 class tst_TesseraPlugin : public QObject
@@ -174,7 +160,8 @@ private Q_SLOTS:
         QSettings().clear();
         m_trap = {};
         m_registry.reset(new Host::ServiceRegistry);
-        m_plugins.reset(new Plugins);
+        m_plugins.reset(new Host::PluginCatalogue);
+        m_plugins->setWorkbenchOffered(true);
         m_menus.reset(new Menus(&m_trap));
         m_windows.reset(new Windows(&m_trap));
         m_plugin.reset(qobject_cast<Core::Plugin::IPlugin *>(m_loader.instance()));
@@ -351,7 +338,7 @@ private:
     QPluginLoader m_loader {QStringLiteral(TESSERA_PLUGIN_FILE)};
     Trap m_trap;
     QSharedPointer<Host::ServiceRegistry> m_registry;
-    QSharedPointer<Plugins> m_plugins;
+    QSharedPointer<Host::PluginCatalogue> m_plugins;
     QSharedPointer<Menus> m_menus;
     QSharedPointer<Windows> m_windows;
     std::unique_ptr<Core::Plugin::IPlugin> m_plugin;

@@ -4,6 +4,7 @@
 #include "internal/view/optionswindow.h"
 
 #include "internal/view/featureoptionsmenu.h"
+#include "internal/view/standardiconprovider.h"
 #include "tessera/featuretest.h"
 
 #include <QAccessible>
@@ -42,6 +43,25 @@ private Q_SLOTS:
     void initTestCase()
     {
         registerOptionsWindowTypes();
+    }
+
+    void isAToolWindowOfTheScreensSize()
+    {
+        QCOMPARE(m_window->flags(), Qt::WindowFlags(0x0204100B));
+        QCOMPARE(m_window->title(), QStringLiteral(" "));
+        QCOMPARE(m_window->minimumSize(), m_window->size());
+        QCOMPARE(optionsWindowSize(100.0), QSize(364, 458));
+    }
+
+    void drawsTheIconsOfTheStyle()
+    {
+        CStandardIconProvider provider;
+        QSize size;
+        QVERIFY(!provider.requestPixmap(QStringLiteral("SP_TitleBarCloseButton"), &size, {-1, -1})
+                     .isNull());
+        QVERIFY(!size.isEmpty());
+        QCOMPARE(provider.requestPixmap(QStringLiteral("SP_None"), nullptr, {8, 4}).size(),
+                 QSize(8, 4));
     }
 
     void namesATabAndSelectsAnother()

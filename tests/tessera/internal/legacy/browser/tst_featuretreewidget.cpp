@@ -21,6 +21,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QSplitter>
 
 #include <memory>
 
@@ -279,6 +280,28 @@ private Q_SLOTS:
         QVERIFY(shown().contains(QLatin1String("Lost")));
         m_browser->setFeatureNameList({});
         QCOMPARE(shown(), QString());
+    }
+
+    void listsWhatATreeHoldsWithoutAService()
+    {
+        m_browser->setUserTabMode(true);
+        add();
+        for (int entry = 0; entry < 2; ++entry) {
+            expectFault(QStringLiteral("Plugin::CameraPool::IDeviceParameterService not set!"));
+        }
+        m_browser->setFeatureNameList({name("Far"), name("Gone")});
+        QCOMPARE(shown(), QStringLiteral("Far "));
+    }
+
+    void keepsColumnWidthsForTheFirstShow()
+    {
+        FeatureTreeWidget browser(QString(), m_info, nullptr);
+        browser.setUserTabMode(false);
+        browser.setCategoryColumnWidth(123);
+        browser.setFirstSectionSize(77);
+        browser.show();
+        QTRY_COMPARE(browser.findChild<QSplitter *>()->sizes().constFirst(), 123);
+        QCOMPARE(browser.tableView()->columnWidth(0), 77);
     }
 
     void dropsOpenEditorsWhenCleared()

@@ -81,6 +81,10 @@ private Q_SLOTS:
             nullptr);
         row("no name", "<R/>" + rule("Width", locked), "/ /RO",
             "featuretreewidget \\d+ failed to get the name of a filter item");
+        row("empty name", "<R><Name/></R>" + rule("Width", locked), "/ /RO",
+            "featuretreewidget \\d+ empty name found");
+        row("very many", rule("Gain", locked).repeated(20000) + rule("Width", expert),
+            "/RO Größe /", nullptr);
         row("truncated", rule("Gain", locked).chopped(3));
         row("not UTF-8", rule("Gain", locked) + "\xff\xfe" + QByteArray("<a>").repeated(200000));
         row("growing entities", growingEntities());

@@ -3,6 +3,7 @@
 
 #include "internal/legacy/browser/searchedit.h"
 #include "internal/view/screenratio.h"
+#include "internal/view/trailingicon.h"
 #include "internal/view/usecaseedit.h"
 #include "support/warningguard.h"
 
@@ -65,6 +66,21 @@ private Q_SLOTS:
         QApplication::setPalette(before);
     }
 
+    void iconStandsInTheMiddleOfItsCanvas()
+    {
+        QPixmap red(64, 64);
+        red.fill(Qt::red);
+        QLineEdit edit;
+        edit.resize(100, 30);
+        const QIcon icon = addTrailingIcon(&edit, QStringLiteral("red"), QIcon(red), 10)->icon();
+        const QImage image = icon.pixmap(100).toImage();
+        QCOMPARE(image.size(), QSize(40, 40));
+        QCOMPARE(image.pixelColor(3, 20).alpha(), 0);
+        QCOMPARE(image.pixelColor(36, 20).alpha(), 0);
+        QCOMPARE(image.pixelColor(8, 20), QColor(Qt::red));
+        QCOMPARE(image.pixelColor(31, 20), QColor(Qt::red));
+    }
+
     void helpStandsInTheEmptyLineOnly()
     {
         const auto showsHelp = [this] {
@@ -93,6 +109,12 @@ private Q_SLOTS:
         QCOMPARE(m_useCase->toolTip(), name);
         m_useCase->resize(width + reserved, 30);
         QCOMPARE(m_useCase->text(), name);
+
+        QFont wide = m_useCase->font();
+        wide.setPointSize(70);
+        const int pixels = m_useCase->font().pixelSize();
+        m_useCase->setFont(wide);
+        QCOMPARE(m_useCase->font().pixelSize(), pixels);
 
         const QSignalSpy crosses(m_useCase, &CUseCaseEdit::onCrossActionTriggered);
         QTest::keyClicks(m_useCase, QStringLiteral("x\b"));

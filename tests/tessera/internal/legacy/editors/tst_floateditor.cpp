@@ -151,6 +151,10 @@ private Q_SLOTS:
         QTest::keyClick(m_box, Qt::Key_Up); // no parameter yet
         m_other->setFocus();
         QCOMPARE(commits.count(), 0);
+        m_box->setFocus();
+        QTest::keyClicks(m_box, QStringLiteral("9"));
+        m_other->setFocus();
+        QCOMPARE(commits.count(), 1);
     }
 
     void losesItsArrowsForGoodWithoutAnIncrement()

@@ -73,6 +73,7 @@ private Q_SLOTS:
         ComboSlider slider;
         slider.setRangeAndStep(0, 100, 7);
         slider.setValue(40);
+        QCOMPARE(slider.findChild<QSlider *>()->maximum(), 100);
         QSignalSpy changes(&slider, &ComboSlider::valueChanged);
         auto *box = slider.findChild<QSpinBox *>();
         box->selectAll();

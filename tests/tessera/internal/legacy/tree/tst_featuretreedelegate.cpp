@@ -61,6 +61,16 @@ private Q_SLOTS:
             !m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), QModelIndex()));
     }
 
+    void logsWhatThePropertiesThrow()
+    {
+        add(QStringLiteral("F Integer 1"));
+        node().onProperty = Fault::Unknown;
+        m_guard.expectLogEntry(ELogLevel::Fault,
+                               QStringLiteral("vantrel.viewer.plugins.tessera.nodeItem"),
+                               QRegularExpression(QStringLiteral("^Failed to create an editor ")));
+        QVERIFY(!m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), index()));
+    }
+
     void writesNoTextThatStandsForAValue()
     {
         add(QStringLiteral("F Integer 4 rep=HexNumber"));

@@ -8,6 +8,7 @@
 
 #include "internal/legacy/tree/featuretreeitem.h"
 #include "internal/legacy/tree/featuretreemodel.h"
+#include "plugin/constants/itemroles.h"
 #include "support/modeltester.h"
 #include "support/treetext.h"
 #include "tessera/featuretest.h"
@@ -85,6 +86,7 @@ private Q_SLOTS:
         m_proxy->invalidate();
         const QString before = treeText(*m_proxy);
         m_proxy->setVisibility(0);
+        QCOMPARE(m_source->visibility(), 0);
         QCOMPARE(treeText(*m_proxy), before);
         m_proxy->invalidate();
         QVERIFY(treeText(*m_proxy) != before);
@@ -98,6 +100,28 @@ private Q_SLOTS:
                 [&] { rows.append(m_proxy->rowCount()); });
         add(camera);
         QCOMPARE(rows, QVector<int> {1});
+    }
+
+    void countsWhatItVisited()
+    {
+        add("Image\n  Width Integer 1\nSecret expert\n  Key Integer 1 guru");
+        m_proxy->setVisibility(0);
+        m_proxy->invalidate();
+        treeText(*m_proxy);
+        QCOMPARE(m_proxy->matchCount(), 2); // the top row and Image
+        QCOMPARE(m_proxy->hiddenMatchCount(), 2); // Secret and Key
+    }
+
+    void marksInOneChangeOfLayout()
+    {
+        add(camera);
+        int layouts = 0;
+        connect(m_proxy.get(), &QAbstractItemModel::layoutChanged, this, [&] { ++layouts; });
+        m_proxy->markSearchMatches(QStringLiteral(" width "));
+        m_proxy->markFavorites({QStringLiteral("@cameradevice/exposure")});
+        QCOMPARE(layouts, 2);
+        QVERIFY(findRow(*m_proxy, QStringLiteral("Image")).data(IsSearchMatchRole).toBool());
+        QVERIFY(findRow(*m_proxy, QStringLiteral("Timing")).data(IsFavoriteMatchRole).toBool());
     }
 
     void mapsIndexesOfItsSource()
