@@ -192,6 +192,18 @@ private Q_SLOTS:
         QCOMPARE(treeShown(), QStringLiteral("Two\n  Image\nLater\n"));
     }
 
+    void logsWhatItIsNotGiven()
+    {
+        for (const char *text : {"Info", "Info", "ParameterCollection"}) {
+            m_guard.expectLogEntry(ELogLevel::Fault, category,
+                                   QStringLiteral("%1 is null.").arg(QLatin1String(text)));
+        }
+        m_control->registerParameterSource({});
+        m_control->unregisterParameterSource({});
+        m_control->registerParameterSource(source("Device"));
+        QVERIFY(!shown());
+    }
+
     void followsTheActiveSource()
     {
         const BaseInfoPtr first = addCamera(QStringLiteral("One"));

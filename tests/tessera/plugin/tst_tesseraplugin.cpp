@@ -277,7 +277,7 @@ private Q_SLOTS:
         const auto status = findService<IFeatureTreeStatusService>(m_registry);
         const QSignalSpy level(status.data(), &IFeatureTreeStatusService::visibilityChanged);
         const QSignalSpy text(status.data(), &IFeatureTreeStatusService::newText);
-        QWidget *pane = m_windows->panes.first();
+        QWidget *pane = qAsConst(m_windows->panes).first();
         QMetaObject::invokeMethod(pane, "visibilityChanged",
                                   Q_ARG(GenApi::EVisibility, GenApi::Expert));
         QMetaObject::invokeMethod(pane, "newText", Q_ARG(QString, QStringLiteral("text")));

@@ -94,6 +94,7 @@ private Q_SLOTS:
         menu.onAddFeature(2, QStringLiteral("@StreamGrabber0/Type/Deep"));
         QStringList names;
         const QVariantList features = menu.featureLists().at(2).toList();
+        names.reserve(features.size());
         for (const QVariant &feature : features) {
             names.append(feature.toMap().value(QStringLiteral("name")).toString());
         }

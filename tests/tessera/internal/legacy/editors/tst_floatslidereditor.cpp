@@ -34,10 +34,12 @@ private Q_SLOTS:
     {
         TwoModeDoubleComboSlider widget(nullptr, Mode::Linear);
         widget.initControls(0.0, 1.0, 500, 10, 1010, 10);
-        QCOMPARE(widget.findChild<QSlider *>()->minimum(), 10);
+        auto *slider = widget.findChild<QSlider *>();
+        QCOMPARE(slider->minimum(), 10);
         const QSignalSpy ranges(&widget, &DoubleComboSlider::rangeChanged);
         widget.setProperty("intMinimum", 0);
         QCOMPARE(ranges.value(0), QVariantList({0, 1010}));
+        QCOMPARE(slider->minimum(), 0);
         QSignalSpy changes(&widget, &TwoModeDoubleComboSlider::valueChanged);
         auto *box = widget.findChild<QDoubleSpinBox *>();
         widget.setValue(0.5);
@@ -48,6 +50,9 @@ private Q_SLOTS:
         QCOMPARE(box->value(), 0.5); // waits for the float's snapshot
         widget.setRangeStepAndIncrement(1, 1000, 10);
         QCOMPARE(widget.validIntValue(123), 121);
+        QCOMPARE(slider->pageStep(), 41);
+        widget.setMaximum(0.25);
+        QCOMPARE(box->maximum(), 0.25);
     }
 
     void logarithmicWidgetKeepsWhatItIsGiven()
@@ -62,6 +67,8 @@ private Q_SLOTS:
         slider->setValue(0);
         const QList<QVariantList> expected {{777}, {100}};
         QCOMPARE(QList<QVariantList>(changes), expected);
+        widget.setIntMaximum(2000);
+        QCOMPARE(slider->maximum(), 100000); // a scale of its own
     }
 
     void onlyALogarithmicExposureIsLogarithmic()

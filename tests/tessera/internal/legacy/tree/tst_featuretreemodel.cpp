@@ -203,6 +203,10 @@ private Q_SLOTS:
         m_model->pollNodes({});
         QCOMPARE(m_collection->batchUpdates, 2);
         m_collection->onUpdate = Fault::None;
+        m_model->setPolling(false);
+        QVERIFY(!fire());
+        m_model->setPolling(true);
+        QVERIFY(timer->isActive());
         m_model->setActive(false);
         QVERIFY(!fire());
     }
