@@ -335,6 +335,14 @@ private Q_SLOTS:
         }
     }
 
+    void handsItsColumnWidthToTheNextBrowser()
+    {
+        addCamera(QStringLiteral("One"));
+        shown()->tableView()->setColumnWidth(0, 91);
+        addCamera(QStringLiteral("Two"));
+        QCOMPARE(shown()->tableView()->columnWidth(0), 91);
+    }
+
     void keepsTheMenuEntryInStepWithItsDock()
     {
         QMenu windowMenu;

@@ -114,6 +114,19 @@ private Q_SLOTS:
         QCOMPARE(rows(1), QStringLiteral("Width Gain "));
     }
 
+    void cancelChangesNothing()
+    {
+        openWindow();
+        send("nameChanged", 0, QStringLiteral("Mine"));
+        send("addFeature", 0, pathOf("Gain"));
+        press("add");
+        openWindow();
+        send("removeFeature", 0, pathOf("Gain"));
+        press("cancel");
+        QCOMPARE(rows(1), QStringLiteral("Gain "));
+        QCOMPARE(menu()->featureNameList(0).size(), 1);
+    }
+
     void worksWithoutTheScene()
     {
         stop();

@@ -247,6 +247,7 @@ private Q_SLOTS:
         const int x = picture.width() - 20;
         QCOMPARE(header->sizeHint().height(), header->fontMetrics().height() + 13 * dpi / 96);
         QCOMPARE(picture.pixel(x, line), header->palette().color(QPalette::Midlight).rgb());
+        QCOMPARE(picture.pixel(header->sectionSize(0) - 1, 1), picture.pixel(x, line));
         QCOMPARE(picture.pixel(x, line - 1), header->palette().color(QPalette::Base).rgb());
     }
 

@@ -278,6 +278,8 @@ private Q_SLOTS:
         QCOMPARE(shown(), QStringLiteral("Far Width "));
         widget<QCheckBox>("checkBoxUnavailableFavs")->click();
         QVERIFY(shown().contains(QLatin1String("Lost")));
+        m_browser->setFeatureNameList({name("Far"), name("Width"), name("Far")});
+        QCOMPARE(shown(), QStringLiteral("Far Width Far "));
         m_browser->setFeatureNameList({});
         QCOMPARE(shown(), QString());
     }

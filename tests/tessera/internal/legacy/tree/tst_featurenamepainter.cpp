@@ -107,8 +107,10 @@ private Q_SLOTS:
         QVERIFY(count(paint(), QRect(0, 0, 1000, 30), search) > 0);
     }
 
-    void drawsTheTextBoldOrInTheColourOfTheItem()
+    void showsHoverSelectionAndTheColourOfTheItem()
     {
+        const QImage hovered = paint(QStyle::State_Enabled | QStyle::State_MouseOver);
+        QVERIFY(hovered.pixelColor(m_rect.right() - 1, 2) != window);
         const QImage bold = paint(QStyle::State_Enabled | QStyle::State_Selected);
         QVERIFY(count(paint(), m_rect, window) > count(bold, m_rect, window));
         m_model.item(0)->setText(QString(12, QChar(0x2588)));

@@ -110,6 +110,10 @@ private Q_SLOTS:
         treeText(*m_proxy);
         QCOMPARE(m_proxy->matchCount(), 2); // the top row and Image
         QCOMPARE(m_proxy->hiddenMatchCount(), 2); // Secret and Key
+        m_proxy->setVisibility(3);
+        m_proxy->invalidate();
+        treeText(*m_proxy);
+        QCOMPARE(m_proxy->hiddenMatchCount(), 0);
     }
 
     void marksInOneChangeOfLayout()
@@ -131,6 +135,7 @@ private Q_SLOTS:
         m_proxy->invalidate();
         const QModelIndex second = findRow(*m_proxy, QStringLiteral("Second"), 1);
         QCOMPARE(second.row(), 0);
+        QVERIFY(m_proxy->isUtf8());
         FeatureTreeItem *item = m_proxy->itemFromIndex(second);
         QCOMPARE(m_proxy->createItemIndex(item, 1), second);
         QCOMPARE(m_proxy->indexOfItem(item, nullptr, 1), second);
