@@ -122,7 +122,6 @@ private Q_SLOTS:
             "j=;", "Couldn't find correct translation for usecase: j");
         row("no name", catalogue("{'Name':'a'},{'Name':[{'LanguageCode':'en'},{'Text':'a'},3]}"),
             "", noName);
-        row("no text", catalogue("7,{'Name':[{'LanguageCode':'en','Text':5}]}"), "", noName);
         row("equal names", catalogue("{N(a),'Parameters':['@C/X']},{N(a),'Parameters':['@C/Y']}"),
             "a=@C/Y;", "");
         row("parameters",
@@ -132,9 +131,6 @@ private Q_SLOTS:
             catalogue("{N(Tessera - Basic),'Parameters':['@C/X']},{N(TESSERA - Basic)}"),
             "TESSERA - Basic=;", "");
         row("no use cases", "{\"UseCases\":{}}", "-", "UseCases has no valid content");
-        row("array", "[]", "-", "UseCases has no valid content");
-        row("empty", "", "-", "illegal value");
-        row("truncated", catalogue("{N(a)}").chopped(1), "-", "unterminated object");
         row("not UTF-8", catalogue("'\xff\xfe'"), "-", "invalid UTF8 string");
         row("deep", QByteArray(100000, '['), "-", "too deeply nested document");
         row("folder", QByteArray(), "-", "");

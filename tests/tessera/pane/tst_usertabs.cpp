@@ -2,14 +2,15 @@
 // SPDX-License-Identifier: MIT
 
 #include "internal/featuretreeusecaseservice.h"
+
 #include "internal/legacy/browser/featuretreewidget.h"
 #include "internal/view/featureoptionsmenu.h"
 #include "internal/view/featuretableview.h"
 #include "internal/view/optionswindow.h"
 #include "pane/featurepane.h"
 #include "plugin/services/featuretreecontrolservice.h"
-#include "support/fakecollection.h"
-#include "support/warningguard.h"
+#include "support/settingsfolder.h"
+#include "tessera/featuretest.h"
 
 #include "host/framework/camerarecord.h"
 #include "host/framework/menuservice.h"
@@ -24,8 +25,6 @@
 #include <QQuickItem>
 #include <QQuickView>
 #include <QSettings>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <memory>
 #include <vector>
@@ -36,50 +35,16 @@ using Plugin::Tessera::Internal::CFeatureTreeControlService;
 using Plugin::Tessera::Internal::CFeatureTreeUseCaseService;
 using Plugin::Tessera::Internal::View::CFeatureOptionsMenu;
 
-namespace {
-
-const QString device = QStringLiteral("@CameraDevice");
-
-QString path(const char *name)
-{
-    return device + QLatin1Char('/') + QLatin1String(name);
-}
-
-} // namespace
-
 /// The All pane, the four user panes and the window in which user tabs are made.
-class tst_UserTabs : public QObject
+class tst_UserTabs : public FeatureTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase()
     {
-        QCoreApplication::setOrganizationName(QStringLiteral("tessera"));
-        QCoreApplication::setApplicationName(QStringLiteral("test"));
-        QSettings::setDefaultFormat(QSettings::IniFormat);
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_folder.path());
         Host::prepareQuick();
         Plugin::Tessera::Internal::View::registerOptionsWindowTypes();
-    }
-
-    void init()
-    {
-        m_guard.begin();
-        QSettings().clear();
-        m_info.reset(new Host::CameraRecord(QStringLiteral("Cam"), QStringLiteral("Model"),
-                                            QStringLiteral("GEV")));
-        m_collection = QSharedPointer<Tests::FakeCollection>::create();
-        m_collection->attach(device,
-                             QStringLiteral("Image\n  Width Integer 640\n  Height Integer 480\n"
-                                            "  Gain Float 1\n"));
-        start();
-    }
-
-    void cleanup()
-    {
-        stop();
-        m_guard.verify();
     }
 
     void opensAndClosesWithItsPane()
@@ -103,9 +68,9 @@ private Q_SLOTS:
     {
         openWindow();
         send("nameChanged", 0, QStringLiteral("R&D"));
-        send("addFeature", 0, path("Gain"));
-        send("addFeature", 0, path("Width"));
-        send("addFeature", 1, path("Height"));
+        send("addFeature", 0, pathOf("Gain"));
+        send("addFeature", 0, pathOf("Width"));
+        send("addFeature", 1, pathOf("Height"));
         send("nameChanged", 3, QStringLiteral("Empty"));
         QVERIFY(dock(1)->isHidden()); // nothing holds before OK
         press("add");
@@ -134,49 +99,32 @@ private Q_SLOTS:
         QVERIFY(!dock(1)->isHidden()); // OK opens it again
     }
 
-    void cancelChangesNothing_data()
-    {
-        QTest::addColumn<QByteArray>("button");
-        QTest::newRow("cancel") << QByteArray("cancel");
-        QTest::newRow("hide") << QByteArray("hide");
-    }
-
-    void cancelChangesNothing()
-    {
-        QFETCH(QByteArray, button);
-        openWindow();
-        send("nameChanged", 0, QStringLiteral("Mine"));
-        send("addFeature", 0, path("Gain"));
-        press("add");
-        openWindow();
-        send("nameChanged", 0, QStringLiteral("Other"));
-        send("removeFeature", 0, path("Gain"));
-        press(button);
-        QVERIFY(!m_options->isVisible());
-        QCOMPARE(rows(1), QStringLiteral("Gain "));
-        QCOMPARE(menu()->userTabNames().constFirst(), QStringLiteral("Mine"));
-        QCOMPARE(menu()->featureNameList(0).size(), 1);
-    }
-
     void aMovedFavouriteStaysMoved()
     {
         openWindow();
         send("nameChanged", 0, QStringLiteral("Mine"));
-        for (const char *name : {"Gain", "Width", "Height"}) {
-            send("addFeature", 0, path(name));
-        }
+        send("addFeature", 0, pathOf("Gain"));
+        send("addFeature", 0, pathOf("Width"));
         press("add");
         auto *browser = m_panes.at(1)->findChild<FeatureTreeWidget *>();
-        browser->tableView()->setCurrentIndex(browser->tableView()->model()->index(2, 0));
+        browser->tableView()->setCurrentIndex(browser->tableView()->model()->index(1, 0));
         browser->findChild<QAction *>(QStringLiteral("actionMoveFavouriteUp"))->trigger();
-        QCOMPARE(rows(1), QStringLiteral("Gain Height Width "));
-        openWindow();
-        press("cancel");
-        openWindow();
-        press("add");
-        QCOMPARE(rows(1), QStringLiteral("Gain Height Width "));
+        QCOMPARE(rows(1), QStringLiteral("Width Gain "));
         restart();
-        QCOMPARE(rows(1), QStringLiteral("Gain Height Width "));
+        QCOMPARE(rows(1), QStringLiteral("Width Gain "));
+    }
+
+    void cancelChangesNothing()
+    {
+        openWindow();
+        send("nameChanged", 0, QStringLiteral("Mine"));
+        send("addFeature", 0, pathOf("Gain"));
+        press("add");
+        openWindow();
+        send("removeFeature", 0, pathOf("Gain"));
+        press("cancel");
+        QCOMPARE(rows(1), QStringLiteral("Gain "));
+        QCOMPARE(menu()->featureNameList(0).size(), 1);
     }
 
     void worksWithoutTheScene()
@@ -191,6 +139,19 @@ private Q_SLOTS:
     }
 
 private:
+    void prepare() override
+    {
+        QSettings().clear();
+        m_info.reset(new Host::CameraRecord(QStringLiteral("Cam"), QStringLiteral("Model"),
+                                            QStringLiteral("GEV")));
+        attach(QStringLiteral("Image\n  Width Integer 640\n  Height Integer 480\n"
+                              "  Gain Float 1\n"));
+        start();
+    }
+    void release() override
+    {
+        stop();
+    }
     void start()
     {
         m_options.reset(Plugin::Tessera::Internal::View::createOptionsWindow());
@@ -299,9 +260,8 @@ private:
         return text;
     }
 
-    QTemporaryDir m_folder;
+    Tests::SettingsFolder m_settings;
     BaseInfoPtr m_info;
-    QSharedPointer<Tests::FakeCollection> m_collection;
     std::unique_ptr<QMainWindow> m_window;
     std::unique_ptr<QQuickView> m_options;
     QSharedPointer<Host::MenuService> m_menuService;
@@ -310,7 +270,6 @@ private:
     QSharedPointer<CFeatureTreeControlService> m_control;
     QSharedPointer<CFeatureTreeUseCaseService> m_useCases;
     std::vector<QPointer<CFeatureTreeWidget>> m_panes; // All, User0 to User3
-    Tests::WarningGuard m_guard;
 };
 
 QTEST_MAIN(tst_UserTabs)

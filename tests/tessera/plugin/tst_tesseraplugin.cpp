@@ -5,18 +5,18 @@
 // clazy:excludeall=missing-qobject-macro
 
 #include "plugin/contract/appcore/actioncommand.h"
-#include "plugin/contract/appcore/actioncontainer.h"
 #include "plugin/contract/appcore/menuservice.h"
 #include "plugin/contract/appcore/windowservice.h"
-#include "plugin/contract/core/localizedplugin.h"
-#include "plugin/contract/core/plugininfoservice.h"
+#include "plugin/contract/core/plugin.h"
 #include "plugin/contract/viewer/featuretreecontrolservice.h"
 #include "plugin/contract/viewer/featuretreestatusservice.h"
 #include "plugin/services/servicelookup.h"
 #include "support/fakefault.h"
+#include "support/settingsfolder.h"
 #include "support/warningguard.h"
 
 #include "host/framework/parameterpool.h"
+#include "host/framework/plugincatalogue.h"
 #include "host/framework/quick.h"
 #include "host/framework/serviceregistry.h"
 
@@ -27,7 +27,7 @@
 #include <QPluginLoader>
 #include <QPointer>
 #include <QSettings>
-#include <QTemporaryDir>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <algorithm>
@@ -63,10 +63,8 @@ struct Trap
     Fault fault = Fault::None;
 };
 
-/// The menu service, and at the same time its only menu and its only command.
-class Menus final : public Plugin::AppCore::IMenuService,
-                    public Plugin::AppCore::IActionContainer,
-                    public Plugin::AppCore::IActionCommand
+/// The menu service of a host without menus, and at the same time its only command.
+class Menus final : public Plugin::AppCore::IMenuService, public Plugin::AppCore::IActionCommand
 {
 public:
     explicit Menus(Trap *trap)
@@ -89,27 +87,17 @@ public:
     }
     void unregisterAction(QAction * /*action*/, const CId &id) override
     {
-        unregistered.append(id.toString());
+        unregistered += id.toString() + QLatin1Char(' ');
         m_trap->step("unregisterAction");
     }
-    IActionContainer *actionContainer(const CId & /*id*/) const override
-    {
-        m_trap->step("actionContainer");
-        return const_cast<Menus *>(this);
-    }
-    QMenu *menu() const override
+    Plugin::AppCore::IActionContainer *actionContainer(const CId & /*id*/) const override
     {
         return nullptr;
     }
-    void addAction(IActionCommand * /*command*/, const CId & /*group*/) override
-    {
-        m_trap->step("addAction");
-    }
     void setAttribute(int /*attribute*/) override
     {
-        m_trap->step("setAttribute");
     }
-    QStringList unregistered;
+    QString unregistered;
 
 private:
     Trap *m_trap; // borrowed
@@ -126,55 +114,34 @@ public:
     }
     bool isDockWidgetClosed(const CId & /*id*/) const override
     {
-        m_trap->step("isDockWidgetClosed");
         return false;
     }
     void setDockWidgetVisible(const CId & /*id*/, bool /*visible*/) override
     {
-        m_trap->step("setDockWidgetVisible");
     }
     void setDockWidgetTitle(const CId & /*id*/, const QString & /*title*/) override
     {
-        m_trap->step("setDockWidgetTitle");
     }
     void addDockWidget(const CId &id, QWidget *widget, int area, bool visible, bool flag) override
     {
-        calls.append(QStringLiteral("add %1 \"%2\" %3 %4 %5")
-                         .arg(id.toString(), widget->windowTitle())
-                         .arg(area)
-                         .arg(visible)
-                         .arg(flag));
+        added += QStringLiteral("%1 \"%2\" %3 %4 %5\n")
+                     .arg(id.toString(), widget->windowTitle())
+                     .arg(area)
+                     .arg(visible)
+                     .arg(flag);
         m_trap->step("addDockWidget");
         panes.insert(id.toString(), widget);
         widget->show();
     }
     void removeDockWidget(const CId &id) override
     {
-        calls.append(QStringLiteral("remove ") + id.toString());
+        ++removals;
         m_trap->step("removeDockWidget");
         panes.value(id.toString())->hide();
     }
-    QStringList calls;
+    QString added;
+    int removals = 0;
     QMap<QString, QPointer<QWidget>> panes;
-
-private:
-    Trap *m_trap; // borrowed
-};
-
-class Plugins final : public Core::Plugin::IPluginInfoService
-{
-public:
-    explicit Plugins(Trap *trap)
-        : IPluginInfoService(nullptr)
-        , m_trap(trap)
-    {
-    }
-    bool isPluginAvailable(const QString &name) const override
-    {
-        m_trap->step("isPluginAvailable");
-        return isWorkbenchOffered && name == QLatin1String("Workbench");
-    }
-    bool isWorkbenchOffered = true;
 
 private:
     Trap *m_trap; // borrowed
@@ -187,21 +154,14 @@ class tst_TesseraPlugin : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName(QStringLiteral("tessera"));
-        QCoreApplication::setApplicationName(QStringLiteral("test"));
-        QSettings::setDefaultFormat(QSettings::IniFormat);
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
-    }
-
     void init()
     {
         m_guard.begin();
         QSettings().clear();
         m_trap = {};
         m_registry.reset(new Host::ServiceRegistry);
-        m_plugins.reset(new Plugins(&m_trap));
+        m_plugins.reset(new Host::PluginCatalogue);
+        m_plugins->setWorkbenchOffered(true);
         m_menus.reset(new Menus(&m_trap));
         m_windows.reset(new Windows(&m_trap));
         m_plugin.reset(qobject_cast<Core::Plugin::IPlugin *>(m_loader.instance()));
@@ -220,19 +180,11 @@ private Q_SLOTS:
 
     void metadataNamesThePlugin()
     {
-        const QJsonObject whole = m_loader.metaData();
-        QCOMPARE(whole[QLatin1String("IID")].toString(), QStringLiteral(VANTREL_PLUGIN_IID));
-        QCOMPARE(whole[QLatin1String("className")].toString(), QStringLiteral("CTesseraPlugin"));
-        const QJsonObject data = whole[QLatin1String("MetaData")].toObject();
+        QCOMPARE(m_loader.metaData()[QLatin1String("IID")].toString(),
+                 QStringLiteral(VANTREL_PLUGIN_IID));
+        const QJsonObject data = m_loader.metaData()[QLatin1String("MetaData")].toObject();
         QCOMPARE(data[QLatin1String("Name")].toString(), QStringLiteral("Tessera"));
         QCOMPARE(data[QLatin1String("Version")].toString(), QStringLiteral(TESSERA_VERSION));
-        QCOMPARE(data[QLatin1String("CompatVersion")].toString(), QStringLiteral(TESSERA_VERSION));
-        QCOMPARE(data[QLatin1String("Required")], QJsonValue(false));
-        QCOMPARE(data[QLatin1String("Description")].toString(),
-                 QStringLiteral("The featuretree plugin for the vantrel application framework."));
-        for (const char *field : {"Vendor", "Url", "Copyright", "License"}) {
-            QVERIFY2(!data[QLatin1String(field)].toString().isEmpty(), field);
-        }
         QString dependencies;
         const QJsonArray rows = data[QLatin1String("Dependencies")].toArray();
         for (const QJsonValue &row : rows) {
@@ -247,127 +199,72 @@ private Q_SLOTS:
     void docksAndTakesAwayThePanes()
     {
         QSettings().setValue(QStringLiteral("Tessera/UserTabName1"), QStringLiteral("R&D, x"));
-        const QStringList added {
-            QStringLiteral("add Tessera.Widget.All \"Features \u2013 All\" 3 1 0"),
-            QStringLiteral("add Tessera.Widget.Basic \"Features \u2013 Basic\" 3 1 0"),
-            QStringLiteral("add Tessera.Widget.User0 \"Features \u2013 \" 3 0 0"),
-            QStringLiteral("add Tessera.Widget.User1 \"Features \u2013 R&&D, x\" 3 0 0"),
-            QStringLiteral("add Tessera.Widget.User2 \"Features \u2013 \" 3 0 0"),
-            QStringLiteral("add Tessera.Widget.User3 \"Features \u2013 \" 3 0 0")};
-        QStringList removed;
-        QStringList unregistered;
-        for (const char *name : {"All", "Basic", "User0", "User1", "User2", "User3"}) {
-            removed.append(QStringLiteral("remove Tessera.Widget.") + QLatin1String(name));
-            unregistered.append(
-                QStringLiteral("Tessera.Widget.%1.menuItem").arg(QLatin1String(name)));
-        }
-        QVERIFY(dynamic_cast<Core::Plugin::ALocalizedPlugin *>(m_plugin.get()));
         QVERIFY(initialize());
         QVERIFY(m_plugin->start());
-        Q_EMIT qGuiApp->focusWindowChanged(nullptr);
-        QCOMPARE(m_windows->calls, added);
+        QCOMPARE(m_windows->added,
+                 QStringLiteral("Tessera.Widget.All \"Features \u2013 All\" 3 1 0\n"
+                                "Tessera.Widget.Basic \"Features \u2013 Basic\" 3 1 0\n"
+                                "Tessera.Widget.User0 \"Features \u2013 \" 3 0 0\n"
+                                "Tessera.Widget.User1 \"Features \u2013 R&&D, x\" 3 0 0\n"
+                                "Tessera.Widget.User2 \"Features \u2013 \" 3 0 0\n"
+                                "Tessera.Widget.User3 \"Features \u2013 \" 3 0 0\n"));
         QVERIFY(m_registry->lock()->tryLockForWrite());
         m_registry->lock()->unlock();
+        delete m_windows->panes.value(QStringLiteral("Tessera.Widget.Basic")); // by the host
         QVERIFY(m_plugin->uninitialize(m_registry));
         QVERIFY(arePanesGone());
-        QCOMPARE(m_windows->calls, added + removed);
-        QCOMPARE(m_menus->unregistered, unregistered);
-
-        // A pane that the host deleted is not touched again.
-        m_windows->calls.clear();
-        QVERIFY(m_plugin->initialize(m_registry));
-        delete m_windows->panes.value(QStringLiteral("Tessera.Widget.Basic"));
-        QVERIFY(m_plugin->uninitialize(m_registry));
-        QCOMPARE(m_windows->calls.size(), 11);
-    }
-
-    void needsItsServices_data()
-    {
-        QTest::addColumn<bool>("isWorkbenchOffered");
-        QTest::addColumn<bool>("starts");
-        QTest::addColumn<bool>("namesTheWorkbench");
-        QTest::newRow("none missing") << true << true << true;
-        QTest::newRow("no Workbench") << false << true << false;
-        QTest::newRow("catalogue") << true << true << false;
-        for (const char *service : {"menu", "parameter", "window"}) {
-            QTest::newRow(service) << true << false << false;
-        }
+        QCOMPARE(m_windows->removals, paneCount - 1);
+        QCOMPARE(m_menus->unregistered.count(QLatin1String(".menuItem ")), paneCount);
     }
 
     void needsItsServices()
     {
-        QFETCH(bool, starts);
-        QFETCH(bool, isWorkbenchOffered);
-        QFETCH(bool, namesTheWorkbench);
-        m_plugins->isWorkbenchOffered = isWorkbenchOffered;
-        if (!starts) {
+        const auto hint = [this] {
+            return m_windows->panes.first()->findChild<QLabel *>()->text();
+        };
+        QVERIFY(initialize("catalogue"));
+        QVERIFY(!hint().contains(QLatin1String("Workbench")));
+        m_plugin->uninitialize(m_registry);
+        QVERIFY(initialize());
+        QVERIFY(hint().contains(QLatin1String("Workbench")));
+        m_plugin->uninitialize(m_registry);
+        for (const char *missing : {"menu", "parameter", "window"}) {
             m_guard.expectLogEntry(ELogLevel::Failure, category, missingService);
+            QVERIFY2(!initialize(missing), missing);
+            QVERIFY(arePanesGone());
         }
-        QCOMPARE(initialize(QTest::currentDataTag()), starts);
-        QCOMPARE(m_windows->panes.size(), starts ? paneCount : 0);
-        for (QWidget *pane : qAsConst(m_windows->panes)) {
-            QCOMPARE(pane->findChild<QLabel *>()->text().contains(QLatin1String("Workbench")),
-                     namesTheWorkbench);
-        }
-        m_plugin->uninitialize({});
-
-        m_guard.expectLogEntry(ELogLevel::Failure, category, missingService);
-        QVERIFY(!m_plugin->initialize({}));
     }
 
     void survivesAHostThatThrows_data()
     {
         QTest::addColumn<QString>("call");
         QTest::addColumn<int>("count");
-        QTest::addColumn<bool>("isAtTheEnd");
         QTest::addColumn<QString>("doing");
-        const QString adding = QStringLiteral("adding Tessera to DockWidget");
-        const auto row = [](const char *call, int count, bool isAtTheEnd, const QString &doing) {
+        const auto row = [](const char *call, int count, const char *doing) {
             QTest::addRow("%s %d", call, count)
-                << QString::fromLatin1(call) << count << isAtTheEnd << doing;
+                << QString::fromLatin1(call) << count << QString::fromLatin1(doing);
         };
-        for (const char *call :
-             {"isPluginAvailable", "registerAction", "actionContainer", "addAction", "setAttribute",
-              "setDockWidgetTitle", "setDockWidgetVisible", "addDockWidget"}) {
-            row(call, 1, false, adding);
-        }
-        for (const char *call : {"registerAction", "addAction", "addDockWidget"}) {
-            row(call, 2, false, adding); // while another pane is there
-        }
-        row("registerAction", 10, false, adding); // menu entry of the last pane
-        row("addDockWidget", 6, false, adding);
-        row("isDockWidgetClosed", 1, false, QString());
-        for (int pane = 1; pane <= paneCount; ++pane) {
-            const QString settings = QStringLiteral(" FeatureTreeWidget%1Settings")
-                                         .arg(QLatin1String(pane == 1       ? "All"
-                                                                : pane == 2 ? "Basic"
-                                                                            : "User"));
-            row("removeDockWidget", pane, true, QStringLiteral("removing") + settings);
-            row("unregisterAction", pane, true, QStringLiteral("deleting") + settings);
-        }
+        row("registerAction", 2, "adding Tessera to DockWidget"); // while a pane is there
+        row("addDockWidget", 6, "adding Tessera to DockWidget");
+        row("removeDockWidget", 1, "removing FeatureTreeWidgetAllSettings");
+        row("removeDockWidget", 2, "removing FeatureTreeWidgetBasicSettings");
+        row("unregisterAction", 6, "deleting FeatureTreeWidgetUserSettings");
     }
 
     void survivesAHostThatThrows()
     {
         QFETCH(QString, call);
         QFETCH(int, count);
-        QFETCH(bool, isAtTheEnd);
         QFETCH(QString, doing);
-        QSettings().setValue(QStringLiteral("Tessera/UserTabFeatureVisible2"), true);
-        QSettings().setValue(QStringLiteral("Tessera/UserTabFeatureAvailable2"), true);
         const int widgets = QApplication::allWidgets().size();
-        const bool starts = isAtTheEnd || doing.isEmpty();
+        const bool starts = !doing.startsWith(QLatin1String("adding"));
         for (const Fault fault : {Fault::GenICam, Fault::Standard, Fault::Host, Fault::Unknown}) {
-            if (!doing.isEmpty()) {
-                m_guard.expectLogEntry(ELogLevel::Failure, category, entryText(fault).arg(doing));
-            }
-            const Trap trap {call, count, fault};
-            m_trap = isAtTheEnd ? Trap() : trap;
+            m_guard.expectLogEntry(ELogLevel::Failure, category, entryText(fault).arg(doing));
+            m_trap = {call, count, fault};
             QCOMPARE(initialize(), starts);
             QVERIFY(starts || arePanesGone());
-            m_trap = isAtTheEnd ? trap : Trap();
             QVERIFY(m_plugin->uninitialize(m_registry));
-            QVERIFY(m_trap.countdown <= 0 || !isAtTheEnd);
+            QVERIFY(m_trap.countdown <= 0);
             QCOMPARE(QApplication::allWidgets().size(), widgets);
             QVERIFY(QSettings().contains(QStringLiteral("Tessera/UserTabName3")) || !starts);
         }
@@ -378,22 +275,14 @@ private Q_SLOTS:
         QVERIFY(initialize());
         QVERIFY(findService<IFeatureTreeControlService>(m_registry));
         const auto status = findService<IFeatureTreeStatusService>(m_registry);
-        QStringList told;
-        connect(status.data(), &IFeatureTreeStatusService::visibilityChanged, this,
-                [&](GenApi::EVisibility level) { told.append(QString::number(level)); });
-        connect(status.data(), &IFeatureTreeStatusService::currentChanged, this,
-                [&] { told.append(QStringLiteral("current")); });
-        connect(status.data(), &IFeatureTreeStatusService::newText, this,
-                [&](const QString &text) { told.append(text); });
-        QObject *pane = m_windows->panes.first();
-        QVERIFY(QMetaObject::invokeMethod(pane, "visibilityChanged",
-                                          Q_ARG(GenApi::EVisibility, GenApi::Expert)));
-        QVERIFY(QMetaObject::invokeMethod(
-            pane, "currentChanged",
-            Q_ARG(QSharedPointer<ParameterCollection::IParameter>, nullptr)));
-        QVERIFY(QMetaObject::invokeMethod(pane, "newText", Q_ARG(QString, QStringLiteral("text"))));
-        QCOMPARE(told.join(QLatin1Char(' ')), QStringLiteral("1 current text"));
-        status->disconnect(this);
+        const QSignalSpy level(status.data(), &IFeatureTreeStatusService::visibilityChanged);
+        const QSignalSpy text(status.data(), &IFeatureTreeStatusService::newText);
+        QWidget *pane = qAsConst(m_windows->panes).first();
+        QMetaObject::invokeMethod(pane, "visibilityChanged",
+                                  Q_ARG(GenApi::EVisibility, GenApi::Expert));
+        QMetaObject::invokeMethod(pane, "newText", Q_ARG(QString, QStringLiteral("text")));
+        QCOMPARE(level.count(), 1);
+        QCOMPARE(text.count(), 1);
     }
 
     void keepsDisplayNamesOverARestart()
@@ -445,11 +334,11 @@ private:
         }
     }
 
-    QTemporaryDir m_settings;
+    Tests::SettingsFolder m_settings;
     QPluginLoader m_loader {QStringLiteral(TESSERA_PLUGIN_FILE)};
     Trap m_trap;
     QSharedPointer<Host::ServiceRegistry> m_registry;
-    QSharedPointer<Plugins> m_plugins;
+    QSharedPointer<Host::PluginCatalogue> m_plugins;
     QSharedPointer<Menus> m_menus;
     QSharedPointer<Windows> m_windows;
     std::unique_ptr<Core::Plugin::IPlugin> m_plugin;

@@ -10,371 +10,260 @@
 #include "internal/legacy/tree/featuretreemodel.h"
 #include "internal/legacy/tree/featuretreeproxymodel.h"
 #include "plugin/constants/itemroles.h"
-#include "support/fakecollection.h"
 #include "support/modeltester.h"
 #include "support/treetext.h"
-#include "support/warningguard.h"
+#include "tessera/featuretest.h"
 
 #include <QApplication>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
-#include <stdexcept>
 
 using Core::Logging::ELogLevel;
 using Plugin::Tessera::Internal::Model::CFeatureTableModel;
 using Tests::Fault;
 using Tests::findRow;
 
-namespace {
-
-const QString path = QStringLiteral("@CameraDevice");
-
-/// A row that cannot be read.
-class BrokenItem final : public FeatureTreeItem
-{
-public:
-    BrokenItem()
-        : FeatureTreeItem(QString(), nullptr, QStringLiteral("Broken"), nullptr, 0)
-    {
-    }
-    QVariant data(int column, int role) const override
-    {
-        if (isBroken) {
-            throw std::runtime_error("no answer");
-        }
-        return FeatureTreeItem::data(column, role);
-    }
-    bool isBroken = true;
-};
-
-} // namespace
-
-class tst_FeatureTableModel : public QObject
+class tst_FeatureTableModel : public FeatureTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void aProxyShowsEachChangeOfRowsOnce();
-    void aDropMovesARowToAnother_data();
-    void aDropMovesARowToAnother();
-    void movesPastHiddenRows();
-    void deletesOnlyItemsThatStandInNoTree();
-    void keepsTheRowOfAnItemThatIsGone();
-    void writesOnlyWhatDiffers_data();
-    void writesOnlyWhatDiffers();
-    void reportsAWriteThatFails_data();
-    void reportsAWriteThatFails();
-    void logsOneFailedReadInARow();
-    void marksWhatIsFound_data();
-    void marksWhatIsFound();
-    void announcesSingleCells();
+    void aProxyShowsEachChangeOfRowsOnce()
+    {
+        const QList<FeatureTreeItem *> features = items(
+            "  A Integer 1\n  B Integer 2\n  C Integer 3 guru\n  D Integer 4 ni\n  E Integer 5");
+        const Tests::ModelTester tester(m_proxy.get());
+        QSignalSpy inserted(m_proxy.get(), &QAbstractItemModel::rowsInserted);
+        QSignalSpy removed(m_proxy.get(), &QAbstractItemModel::rowsRemoved);
+        m_proxy->setTableItems(features, true);
+        QVERIFY(m_table->isUtf8());
+        QCOMPARE(Tests::treeText(*m_proxy), QStringLiteral("A: 1\nB: 2\nC: 3\nE: 5\n"));
+        m_proxy->setTableItems(features.mid(3), false);
+        QVERIFY(!m_table->isUtf8());
+        QCOMPARE(Tests::treeText(*m_proxy), QStringLiteral("E: 5\n"));
+        QCOMPARE(inserted.count(), 2);
+        QCOMPARE(removed.count(), 1);
+        m_proxy->setTableItems({}, false);
+        QCOMPARE(m_proxy->rowCount(), 0);
+        QCOMPARE(removed.count(), 2);
+        QVERIFY(!node("A").isSubscribed());
+    }
+
+    void aDropMovesARowToAnother_data()
+    {
+        QTest::addColumn<int>("target");
+        QTest::addColumn<int>("column");
+        QTest::addColumn<QString>("result");
+        QTest::newRow("down") << 3 << 0 << "ACDB";
+        QTest::newRow("up") << 0 << 0 << "BACD";
+        QTest::newRow("between rows") << -1 << 0 << "ABCD";
+        QTest::newRow("onto a value") << 3 << 1 << "ABCD";
+    }
+
+    void aDropMovesARowToAnother()
+    {
+        QFETCH(const int, target);
+        QFETCH(const int, column);
+        QFETCH(const QString, result);
+        m_table->setItems(items("  A Integer\n  B Integer\n  C Integer\n  D Integer"), true);
+        const Tests::ModelTester tester(m_proxy.get());
+        const QPersistentModelIndex b(findRow(*m_proxy, QStringLiteral("B")));
+        const QSignalSpy moves(m_table, &CFeatureTableModel::orderOfItemsChanged);
+        const std::unique_ptr<QMimeData> data(m_proxy->mimeData({b}));
+        QCOMPARE(data->text(), pathOf("B"));
+        const QModelIndex place = m_proxy->index(target, column);
+        const bool moved = result != QLatin1String("ABCD");
+        QVERIFY(!m_proxy->dropMimeData(data.get(), Qt::CopyAction, -1, -1, place));
+        QCOMPARE(m_proxy->dropMimeData(data.get(), Qt::MoveAction, -1, -1, place), moved);
+        QCOMPARE(order(), result);
+        QCOMPARE(moves.count(), moved ? 1 : 0);
+        QCOMPARE(b.data().toString(), QStringLiteral("B"));
+    }
+
+    void movesPastHiddenRows()
+    {
+        m_table->setItems(items("  A Integer\n  B Integer ni\n  C Integer\n  D Integer"), true);
+        const Tests::ModelTester tester(m_proxy.get());
+        QSignalSpy moves(m_table, &CFeatureTableModel::orderOfItemsChanged);
+        const QPersistentModelIndex c(findRow(*m_proxy, QStringLiteral("C")));
+        const auto source = [this](int row) {
+            return m_proxy->mapToSource(m_proxy->index(row, 0));
+        };
+        m_table->moveItem(source(1), source(0), true);
+        QCOMPARE(order(), QStringLiteral("CABD"));
+        QCOMPARE(c.row(), 0);
+        m_table->moveItem(source(0), source(2), false);
+        QCOMPARE(order(), QStringLiteral("ABDC"));
+        QCOMPARE(c.row(), 2);
+        QCOMPARE(c.data().toString(), QStringLiteral("C"));
+        m_table->moveItem(source(1), QModelIndex(), false);
+        m_table->moveItem(source(1), source(1), false);
+        QCOMPARE(moves.count(), 2);
+        QCOMPARE(moves.last(), QVariantList({0, 3}));
+    }
+
+    void deletesOnlyItemsThatStandInNoTree()
+    {
+        const QList<FeatureTreeItem *> features = items("  A Integer 1");
+        const QPointer<FeatureTreeItem> ofTree(features.first());
+        const auto parameter = m_collection->parameter(pathOf("A"));
+        const QPointer<FeatureTreeItem> fresh(new FeatureTreeINodeItem(
+            m_collection, parameter, m_table, pathOf("A"), nullptr, true, 0));
+        m_table->setItems({ofTree, fresh}, true);
+        QCOMPARE(m_table->index(1, 1).data().toString(), QStringLiteral("1"));
+        m_table->setItems({ofTree}, true);
+        QVERIFY(!fresh);
+        m_table->clear();
+        QVERIFY(ofTree);
+    }
+
+    void writesOnlyWhatDiffers()
+    {
+        m_table->setItems(items("  A Integer 5"), true);
+        QVERIFY(m_table->setData(row("A", 1), 5));
+        QVERIFY(!m_table->setData(row("A", 1), QVariant()));
+        QVERIFY(!m_table->setData(row("A", 0), 8));
+        QVERIFY(!m_table->setData(row("A", 1), 8, Qt::DisplayRole));
+        m_table->setActive(false);
+        QVERIFY(!m_table->setData(row("A", 1), 7));
+        QVERIFY(node("A").writes.isEmpty());
+        m_table->setActive(true);
+        QVERIFY(m_table->setData(row("A", 1), 7));
+        QCOMPARE(node("A").writes, QStringList(QStringLiteral("7")));
+    }
+
+    void keepsTheRowOfAnItemThatIsGone()
+    {
+        m_table->setItems(items("  A Integer 1\n  B Integer 2"), true);
+        const QModelIndex stale = m_table->index(0, 1);
+        delete m_table->itemFromIndex(m_table->index(0, 0));
+        QVERIFY(!stale.data().isValid());
+        QVERIFY(!m_table->setData(stale, 5));
+        m_table->refreshAll();
+        m_table->markSearchMatches(QStringLiteral("b"));
+        QStringList names;
+        QCOMPARE(m_table->itemsForNames(names).size(), 1);
+        QCOMPARE(m_table->indexOfName(pathOf("B"), nullptr, 1).data().toInt(), 2);
+    }
+
+    void marksWhatIsFound()
+    {
+        m_table->setItems(items("  Gain Float 1\n  Width Integer 8\n  AnalogGain Float 1\n"
+                                "  Hidden Float 1 invisible\n  Missing Float 1 ni"),
+                          true);
+        const auto marked = [this](int role) {
+            QString names;
+            for (int i = 0; i < m_table->rowCount(); ++i) {
+                const QModelIndex name = m_table->index(i, 0);
+                names += name.data(role).toBool() ? name.data().toString() : QString();
+            }
+            return names;
+        };
+        m_proxy->markSearchMatches(QStringLiteral(" gAIN "));
+        QCOMPARE(marked(IsSearchMatchRole), QStringLiteral("GainAnalogGain"));
+        m_proxy->markSearchMatches(QStringLiteral("  "));
+        QCOMPARE(marked(IsSearchMatchRole), QString());
+        m_proxy->markFavorites({pathOf("gain"), pathOf("Hidden")});
+        QCOMPARE(marked(IsFavoriteMatchRole), QStringLiteral("Gain"));
+    }
+
+    void reportsAWriteThatFails_data()
+    {
+        Tests::addFaultRows();
+    }
+
+    void reportsAWriteThatFails()
+    {
+        QFETCH(const Fault, fault);
+        m_table->setItems(items("  A Integer 5\n  B Command"), true);
+        m_guard.expectLogEntry(
+            ELogLevel::Fault, QStringLiteral("vantrel.viewer.exceptions"),
+            QRegularExpression(QStringLiteral("Model::CFeatureTableModel::setData")));
+        node("A").onWrite = fault;
+        QVERIFY(!m_table->setData(row("A", 1), 7));
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        const auto box = std::find_if(windows.cbegin(), windows.cend(), [](const QWidget *window) {
+            return qobject_cast<const QMessageBox *>(window) && window->isVisible();
+        });
+        QVERIFY(box != windows.cend());
+        QVERIFY(qobject_cast<QMessageBox *>(*box)->text().contains(
+            QLatin1String("Failed to set a feature value.")));
+        (*box)->close();
+        m_table->setActive(false);
+        QVERIFY(!m_table->setData(row("A", 1), 7));
+        QCOMPARE(row("A", 1).data().toInt(), 5);
+    }
+
+    void announcesSingleCells()
+    {
+        m_table->setItems(items("  A Integer 1\n  B Integer 2"), true);
+        QSignalSpy changes(m_proxy.get(), &QAbstractItemModel::dataChanged);
+        Tests::FakeNode &b = node("B");
+        b.number = 9;
+        b.publish();
+        QCOMPARE(changes.count(), 2);
+        for (int column : {0, 1}) {
+            const QModelIndex cell = m_proxy->index(1, column);
+            QCOMPARE(changes.at(column).at(0).toModelIndex(), cell);
+            QCOMPARE(changes.at(column).at(1).toModelIndex(), cell);
+        }
+        QCOMPARE(m_proxy->index(1, 1).data().toInt(), 9);
+        m_table->setActive(false);
+        b.publish();
+        QCOMPARE(changes.count(), 2);
+        m_table->refreshAll();
+        QCOMPARE(changes.count(), 4);
+    }
 
 private:
-    QList<FeatureTreeItem *> items(const char *text);
-    QString order() const;
+    void prepare() override
+    {
+        m_tree = std::make_unique<FeatureTreeModel>();
+        m_proxy = std::make_unique<FeatureTreeProxyModel>();
+        m_proxy->setDynamicSortFilter(false);
+        m_table = new CFeatureTableModel(m_proxy.get());
+        m_proxy->setSourceModel(m_table);
+    }
+    void release() override
+    {
+        m_proxy.reset();
+        m_tree.reset();
+    }
+    // The features of one category, which the tree owns.
+    QList<FeatureTreeItem *> items(const char *text)
+    {
+        attach(QLatin1String("Category\n") + QString::fromLatin1(text));
+        m_tree->addParameterCollection(m_collection, QStringLiteral("Camera"), m_path, true);
+        FeatureTreeItem *category =
+            m_tree->itemFromIndex(findRow(*m_tree, QStringLiteral("Category")));
+        QList<FeatureTreeItem *> found;
+        for (int i = 0; i < category->childCount(); ++i) {
+            found.append(category->child(i));
+        }
+        return found;
+    }
+
+    QString order() const
+    {
+        QString names;
+        for (int i = 0; i < m_table->rowCount(); ++i) {
+            names += m_table->index(i, 0).data().toString();
+        }
+        return names;
+    }
+
     QModelIndex row(const char *name, int column = 0) const
     {
         return findRow(*m_table, QString::fromLatin1(name), column);
     }
 
-    QSharedPointer<Tests::FakeCollection> m_collection;
     std::unique_ptr<FeatureTreeModel> m_tree;
     std::unique_ptr<FeatureTreeProxyModel> m_proxy;
     CFeatureTableModel *m_table = nullptr; // by parent
-    Tests::WarningGuard m_guard;
 };
-
-void tst_FeatureTableModel::init()
-{
-    m_guard.begin();
-    m_collection = QSharedPointer<Tests::FakeCollection>::create();
-    m_tree = std::make_unique<FeatureTreeModel>();
-    m_proxy = std::make_unique<FeatureTreeProxyModel>();
-    m_proxy->setDynamicSortFilter(false);
-    m_table = new CFeatureTableModel(m_proxy.get());
-    m_proxy->setSourceModel(m_table);
-}
-
-void tst_FeatureTableModel::cleanup()
-{
-    m_proxy.reset();
-    m_tree.reset();
-    m_guard.verify();
-}
-
-// The features of one category, which the tree owns.
-QList<FeatureTreeItem *> tst_FeatureTableModel::items(const char *text)
-{
-    m_collection->attach(path, QLatin1String("Category\n") + QString::fromLatin1(text));
-    m_tree->addParameterCollection(m_collection, QStringLiteral("Camera"), path, true);
-    FeatureTreeItem *category = m_tree->itemFromIndex(findRow(*m_tree, QStringLiteral("Category")));
-    QList<FeatureTreeItem *> found;
-    for (int i = 0; i < category->childCount(); ++i) {
-        found.append(category->child(i));
-    }
-    return found;
-}
-
-QString tst_FeatureTableModel::order() const
-{
-    QString names;
-    for (int i = 0; i < m_table->rowCount(); ++i) {
-        names += m_table->index(i, 0).data().toString();
-    }
-    return names;
-}
-
-void tst_FeatureTableModel::aProxyShowsEachChangeOfRowsOnce()
-{
-    const QList<FeatureTreeItem *> features =
-        items("  A Integer 1\n  B Integer 2\n  C Integer 3 guru\n  D Integer 4 ni\n  E Integer 5");
-    const Tests::ModelTester tester(m_proxy.get());
-    QSignalSpy inserted(m_proxy.get(), &QAbstractItemModel::rowsInserted);
-    QSignalSpy removed(m_proxy.get(), &QAbstractItemModel::rowsRemoved);
-    m_proxy->setTableItems(features, true);
-    QVERIFY(m_table->isUtf8());
-    QCOMPARE(Tests::treeText(*m_proxy), QStringLiteral("A: 1\nB: 2\nC: 3\nE: 5\n"));
-    m_proxy->setTableItems(features.mid(3), false);
-    QVERIFY(!m_table->isUtf8());
-    QCOMPARE(Tests::treeText(*m_proxy), QStringLiteral("E: 5\n"));
-    QCOMPARE(inserted.count(), 2);
-    QCOMPARE(removed.count(), 1);
-    m_proxy->setTableItems({}, false);
-    QCOMPARE(m_proxy->rowCount(), 0);
-    QCOMPARE(removed.count(), 2);
-    QVERIFY(!m_collection->node(path + QStringLiteral("/A")).isSubscribed());
-}
-
-void tst_FeatureTableModel::aDropMovesARowToAnother_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("target");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<Qt::DropAction>("action");
-    QTest::addColumn<QString>("order");
-    QTest::addColumn<QList<int>>("signal");
-    const QString b = path + QStringLiteral("/B");
-    const auto move = Qt::MoveAction;
-    QTest::newRow("down") << b << 3 << 0 << move << "ACDB" << QList<int> {1, 3};
-    QTest::newRow("up") << b << 0 << 0 << move << "BACD" << QList<int> {1, 0};
-    QTest::newRow("to the neighbour") << b << 2 << 0 << move << "ACBD" << QList<int> {1, 2};
-    QTest::newRow("onto itself") << b << 1 << 0 << move << "ABCD" << QList<int> {1, 1};
-    QTest::newRow("unknown") << b.toLower() << 3 << 0 << move << "ABCD" << QList<int>();
-    QTest::newRow("between rows") << b << -1 << 0 << move << "ABCD" << QList<int>();
-    QTest::newRow("onto a value") << b << 3 << 1 << move << "ABCD" << QList<int>();
-    QTest::newRow("copy") << b << 3 << 0 << Qt::CopyAction << "ABCD" << QList<int>();
-}
-
-void tst_FeatureTableModel::aDropMovesARowToAnother()
-{
-    QFETCH(const QString, text);
-    QFETCH(const int, target);
-    QFETCH(const int, column);
-    QFETCH(const Qt::DropAction, action);
-    QFETCH(const QList<int>, signal);
-    m_table->setItems(items("  A Integer\n  B Integer\n  C Integer\n  D Integer"), true);
-    const Tests::ModelTester tester(m_proxy.get());
-    const QPersistentModelIndex b(findRow(*m_proxy, QStringLiteral("B")));
-    QList<int> moved;
-    connect(m_table, &CFeatureTableModel::orderOfItemsChanged, this, [&](int from, int to) {
-        moved = {from, to};
-    });
-    const std::unique_ptr<QMimeData> data(m_proxy->mimeData({b}));
-    QCOMPARE(data->text(), path + QStringLiteral("/B"));
-    data->setText(text);
-    const QModelIndex place = m_proxy->index(target, column);
-    QCOMPARE(m_proxy->dropMimeData(data.get(), action, -1, -1, place), !signal.isEmpty());
-    QTEST(order(), "order");
-    QCOMPARE(moved, signal);
-    QCOMPARE(b.data().toString(), QStringLiteral("B"));
-}
-
-void tst_FeatureTableModel::movesPastHiddenRows()
-{
-    m_table->setItems(items("  A Integer\n  B Integer ni\n  C Integer\n  D Integer"), true);
-    const Tests::ModelTester tester(m_proxy.get());
-    QSignalSpy moves(m_table, &CFeatureTableModel::orderOfItemsChanged);
-    const QPersistentModelIndex c(findRow(*m_proxy, QStringLiteral("C")));
-    const auto source = [this](int row) { return m_proxy->mapToSource(m_proxy->index(row, 0)); };
-    m_table->moveItem(source(1), source(0), true);
-    QCOMPARE(order(), QStringLiteral("CABD"));
-    QCOMPARE(c.row(), 0);
-    m_table->moveItem(source(0), source(2), false);
-    QCOMPARE(order(), QStringLiteral("ABDC"));
-    QCOMPARE(c.row(), 2);
-    QCOMPARE(c.data().toString(), QStringLiteral("C"));
-    m_table->moveItem(source(1), QModelIndex(), false);
-    m_table->moveItem(source(1), source(1), false);
-    QCOMPARE(moves.count(), 2);
-    QCOMPARE(moves.last(), QVariantList({0, 3}));
-}
-
-void tst_FeatureTableModel::deletesOnlyItemsThatStandInNoTree()
-{
-    const QList<FeatureTreeItem *> features = items("  A Integer 1");
-    const QPointer<FeatureTreeItem> ofTree(features.first());
-    const auto parameter = m_collection->parameter(path + QStringLiteral("/A"));
-    const QPointer<FeatureTreeItem> fresh(new FeatureTreeINodeItem(
-        m_collection, parameter, m_table, path + QStringLiteral("/A"), nullptr, true, 0));
-    m_table->setItems({ofTree, fresh}, true);
-    QCOMPARE(m_table->index(1, 1).data().toString(), QStringLiteral("1"));
-    m_table->setItems({ofTree}, true);
-    QVERIFY(!fresh);
-    m_table->clear();
-    QVERIFY(ofTree);
-}
-
-void tst_FeatureTableModel::keepsTheRowOfAnItemThatIsGone()
-{
-    m_table->setItems(items("  A Integer 1\n  B Integer 2"), true);
-    FeatureTreeItem *gone = m_table->itemFromIndex(m_table->index(0, 0));
-    const QModelIndex stale = m_table->index(0, 1);
-    delete gone;
-    QVERIFY(!stale.data().isValid());
-    QVERIFY(!m_table->setData(stale, 5));
-    QVERIFY(!m_table->createItemIndex(gone, 0).isValid());
-    m_table->refreshAll();
-    m_table->markSearchMatches(QStringLiteral("b"));
-    QStringList names;
-    QCOMPARE(m_table->itemsForNames(names).size(), 1);
-    QCOMPARE(m_table->indexOfName(path + QStringLiteral("/B"), nullptr, 1).data().toInt(), 2);
-    QCOMPARE(m_table->indexOfRoleValue(ShortNameRole, QStringLiteral("B"), nullptr, 0).row(), 1);
-}
-
-void tst_FeatureTableModel::writesOnlyWhatDiffers_data()
-{
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<bool>("active");
-    QTest::addColumn<bool>("accepted");
-    QTest::addColumn<QStringList>("writes");
-    QTest::newRow("another") << QVariant(7) << true << true << QStringList(QStringLiteral("7"));
-    QTest::newRow("the same") << QVariant(5) << true << true << QStringList();
-    QTest::newRow("none") << QVariant() << true << false << QStringList();
-    QTest::newRow("inactive") << QVariant(7) << false << false << QStringList();
-}
-
-void tst_FeatureTableModel::writesOnlyWhatDiffers()
-{
-    QFETCH(const QVariant, value);
-    QFETCH(const bool, active);
-    m_table->setItems(items("  A Integer 5"), true);
-    m_table->setActive(active);
-    QTEST(m_table->setData(row("A", 1), value), "accepted");
-    QVERIFY(!m_table->setData(row("A", 0), 8));
-    QVERIFY(!m_table->setData(row("A", 1), 8, Qt::DisplayRole));
-    QTEST(m_collection->node(path + QStringLiteral("/A")).writes, "writes");
-}
-
-void tst_FeatureTableModel::reportsAWriteThatFails_data()
-{
-    Tests::addFaultRows();
-}
-
-void tst_FeatureTableModel::reportsAWriteThatFails()
-{
-    QFETCH(const Fault, fault);
-    m_table->setItems(items("  A Integer 5\n  B Command"), true);
-    m_guard.expectLogEntry(
-        ELogLevel::Fault, QStringLiteral("vantrel.viewer.exceptions"),
-        QRegularExpression(QStringLiteral("Model::CFeatureTableModel::setData")));
-    m_collection->node(path + QStringLiteral("/A")).onWrite = fault;
-    QVERIFY(!m_table->setData(row("A", 1), 7));
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    const auto box = std::find_if(windows.cbegin(), windows.cend(), [](const QWidget *window) {
-        return qobject_cast<const QMessageBox *>(window) && window->isVisible();
-    });
-    QVERIFY(box != windows.cend());
-    QVERIFY(qobject_cast<QMessageBox *>(*box)->text().contains(
-        QLatin1String("Failed to set a feature value.")));
-    (*box)->close();
-    m_table->setActive(false);
-    QVERIFY(!m_table->setData(row("A", 1), 7));
-    QCOMPARE(row("A", 1).data().toInt(), 5);
-}
-
-void tst_FeatureTableModel::logsOneFailedReadInARow()
-{
-    auto *broken = new BrokenItem;
-    m_table->setItems({broken}, true);
-    for (int run = 0; run < 2; ++run) {
-        m_guard.expectLogEntry(ELogLevel::Fault,
-                               QStringLiteral("vantrel.viewer.plugins.tessera.featureTableModel"),
-                               QRegularExpression(QStringLiteral(
-                                   "^featuretablemodel [0-9]+ Failed to get a feature value$")));
-        broken->isBroken = true;
-        QVERIFY(!m_table->index(0, 0).data().isValid());
-        QVERIFY(!m_table->index(0, 1).data().isValid());
-        broken->isBroken = false;
-        QVERIFY(m_table->index(0, 0).data(FullNameRole).isValid());
-    }
-}
-
-void tst_FeatureTableModel::marksWhatIsFound_data()
-{
-    QTest::addColumn<QString>("search");
-    QTest::addColumn<QStringList>("names");
-    QTest::addColumn<QString>("marked");
-    const auto search = [](const char *text, const char *marked) {
-        QTest::newRow(text) << QString::fromLatin1(text) << QStringList() << marked;
-    };
-    const auto names = [](const char *name, const char *marked) {
-        QTest::newRow(name) << QString() << QStringList(path + QString::fromLatin1(name)) << marked;
-    };
-    search(" gAIN ", "GainAnalogGain");
-    search("@camera", "GainWidthAnalogGain");
-    search("  ", "");
-    names("/gain", "Gain");
-    names("/AnalogGain", "AnalogGain");
-    names("/Hidden", "");
-    names("/Missing", "");
-}
-
-void tst_FeatureTableModel::marksWhatIsFound()
-{
-    QFETCH(const QString, search);
-    QFETCH(const QStringList, names);
-    m_table->setItems(items("  Gain Float 1\n  Width Integer 8\n  AnalogGain Float 1\n"
-                            "  Hidden Float 1 invisible\n  Missing Float 1 ni"),
-                      true);
-    m_proxy->markSearchMatches(search);
-    m_proxy->markFavorites(names);
-    const int role = names.isEmpty() ? IsSearchMatchRole : IsFavoriteMatchRole;
-    QString marked;
-    for (int i = 0; i < 3; ++i) {
-        const QModelIndex name = m_table->index(i, 0);
-        marked += name.data(role).toBool() ? name.data().toString() : QString();
-    }
-    QTEST(marked, "marked");
-    QCOMPARE(m_table->index(3, 0).data(IsFavoriteMatchRole).toBool(), false);
-    QCOMPARE(m_table->index(4, 0).data(IsFavoriteMatchRole).toBool(), false);
-}
-
-void tst_FeatureTableModel::announcesSingleCells()
-{
-    m_table->setItems(items("  A Integer 1\n  B Integer 2"), true);
-    QSignalSpy changes(m_proxy.get(), &QAbstractItemModel::dataChanged);
-    Tests::FakeNode &b = m_collection->node(path + QStringLiteral("/B"));
-    b.number = 9;
-    b.publish();
-    QCOMPARE(changes.count(), 2);
-    for (int column : {0, 1}) {
-        const QModelIndex cell = m_proxy->index(1, column);
-        QCOMPARE(changes.at(column).at(0).toModelIndex(), cell);
-        QCOMPARE(changes.at(column).at(1).toModelIndex(), cell);
-    }
-    QCOMPARE(m_proxy->index(1, 1).data().toInt(), 9);
-    m_table->setActive(false);
-    b.publish();
-    QCOMPARE(changes.count(), 2);
-    m_table->refreshAll();
-    QCOMPARE(changes.count(), 4);
-}
 
 QTEST_MAIN(tst_FeatureTableModel)
 #include "tst_featuretablemodel.moc"

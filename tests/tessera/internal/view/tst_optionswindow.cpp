@@ -5,16 +5,12 @@
 
 #include "internal/view/featureoptionsmenu.h"
 #include "internal/view/standardiconprovider.h"
-#include "support/fakecollection.h"
-#include "support/warningguard.h"
+#include "tessera/featuretest.h"
 
 #include <QAccessible>
 #include <QQmlComponent>
-#include <QQmlEngine>
 #include <QQuickView>
-#include <QScreen>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <map>
 #include <memory>
@@ -39,7 +35,7 @@ QQuickItem *find(QQuickItem *item, const char *name)
 
 } // namespace
 
-class tst_OptionsWindow : public QObject
+class tst_OptionsWindow : public FeatureTest
 {
     Q_OBJECT
 
@@ -49,46 +45,23 @@ private Q_SLOTS:
         registerOptionsWindowTypes();
     }
 
-    void init()
-    {
-        m_guard.begin();
-        m_window.reset(createOptionsWindow());
-        m_menu = qobject_cast<CFeatureOptionsMenu *>(m_window->rootObject());
-        QVERIFY(m_menu);
-        m_menu->setParameterCollection(QSharedPointer<Tests::FakeCollection>::create());
-        // By name, as the signals are the scene's.
-        const QMetaObject *type = m_menu->metaObject();
-        const std::map<const char *, const char *> connections {
-            {"nameChanged(int,QString)", "onNameChanged(int,QString)"},
-            {"addFeature(int,QString)", "onAddFeature(int,QString)"},
-            {"removeFeature(int,QString)", "onRemoveFeature(int,QString)"},
-            {"remove(int)", "onRemove(int)"},
-        };
-        for (const auto &[signal, slot] : connections) {
-            QVERIFY(QMetaObject::connect(m_menu, type->indexOfSignal(signal), m_menu,
-                                         type->indexOfSlot(slot)));
-        }
-    }
-
-    void cleanup()
-    {
-        m_window.reset();
-        m_guard.verify();
-    }
-
     void isAToolWindowOfTheScreensSize()
     {
-        QVERIFY(!m_window->isVisible());
         QCOMPARE(m_window->flags(), Qt::WindowFlags(0x0204100B));
         QCOMPARE(m_window->title(), QStringLiteral(" "));
-        const double factor = m_window->screen()->logicalDotsPerInch() / 96.0;
-        QCOMPARE(m_window->size(), QSize(int(factor * 350), int(factor * 440)));
         QCOMPARE(m_window->minimumSize(), m_window->size());
         QCOMPARE(optionsWindowSize(100.0), QSize(364, 458));
-        QCOMPARE(m_menu->objectName(), QStringLiteral("_optionsMenu"));
-        show();
-        m_window->resize(m_window->size() * 2);
-        QTRY_COMPARE(m_menu->size().toSize(), m_window->size());
+    }
+
+    void drawsTheIconsOfTheStyle()
+    {
+        CStandardIconProvider provider;
+        QSize size;
+        QVERIFY(!provider.requestPixmap(QStringLiteral("SP_TitleBarCloseButton"), &size, {-1, -1})
+                     .isNull());
+        QVERIFY(!size.isEmpty());
+        QCOMPARE(provider.requestPixmap(QStringLiteral("SP_None"), nullptr, {8, 4}).size(),
+                 QSize(8, 4));
     }
 
     void namesATabAndSelectsAnother()
@@ -107,19 +80,6 @@ private Q_SLOTS:
         press(Qt::Key_Up);
         QCOMPARE(m_menu->userTabIndex(), 1);
         QVERIFY(field(1)->hasActiveFocus());
-    }
-
-    void deletesATabOnceItIsSelected()
-    {
-        show();
-        m_menu->setUserTabName(1, QStringLiteral("tab"));
-        click(find(row(1), "deleteButton"));
-        QCOMPARE(m_menu->userTabIndex(), 1);
-        QCOMPARE(field(1)->property("text").toString(), QStringLiteral("tab"));
-        click(find(row(1), "deleteButton"));
-        QVERIFY(m_menu->userTabNames().at(1).isEmpty());
-        QVERIFY(field(1)->property("text").toString().isEmpty());
-        QCOMPARE(m_menu->userTabIndex(), 1);
     }
 
     void walksAllControlsByKey()
@@ -141,39 +101,24 @@ private Q_SLOTS:
         QCOMPARE(m_menu->userTabIndex(), 0);
     }
 
-    void confirmsOrCancels_data()
-    {
-        QTest::addColumn<int>("userTabIndex");
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<bool>("confirms");
-        QTest::newRow("OK") << 3 << "addButton" << true;
-        QTest::newRow("OK without a tab") << -1 << "addButton" << false;
-        QTest::newRow("Cancel") << 3 << "cancelButton" << false;
-        QTest::newRow("Escape") << 0 << "" << false;
-    }
-
     void confirmsOrCancels()
     {
-        QFETCH(int, userTabIndex);
-        QFETCH(QString, button);
-        QFETCH(bool, confirms);
         show();
-        m_menu->setUserTabIndex(userTabIndex);
         const QMetaObject *type = m_menu->metaObject();
         const QSignalSpy adds(m_menu, type->method(type->indexOfSignal("add()")));
         const QSignalSpy cancels(m_menu, type->method(type->indexOfSignal("cancel()")));
-        if (userTabIndex >= 0) {
-            press(Qt::Key_A);
-        }
-        if (button.isEmpty()) {
-            press(Qt::Key_Escape);
-        } else {
-            click(m_menu->findChild<QQuickItem *>(button));
-        }
-        QCOMPARE(adds.size(), confirms ? 1 : 0);
-        QCOMPARE(cancels.size(), confirms ? 0 : 1);
+        press(Qt::Key_A);
+        press(Qt::Key_Escape);
+        click(m_menu->findChild<QQuickItem *>(QStringLiteral("cancelButton")));
+        QCOMPARE(cancels.size(), 2);
         m_menu->revertChanges();
-        QVERIFY(field(qMax(0, userTabIndex))->property("text").toString().isEmpty());
+        QVERIFY(field(0)->property("text").toString().isEmpty());
+        click(m_menu->findChild<QQuickItem *>(QStringLiteral("addButton")));
+        QCOMPARE(adds.size(), 1);
+        m_menu->setUserTabIndex(-1); // no tab: nothing to confirm
+        click(m_menu->findChild<QQuickItem *>(QStringLiteral("addButton")));
+        QCOMPARE(adds.size(), 1);
+        QCOMPARE(cancels.size(), 3);
     }
 
     void showsTheFeaturesOfTheTab()
@@ -191,66 +136,59 @@ private Q_SLOTS:
         }
         QQuickItem *chip = find(view, "feature59");
         QVERIFY(find(chip, "removeButton")->hasActiveFocus());
-        const QRectF seen = chip->mapRectToItem(view, chip->boundingRect());
-        QVERIFY(view->boundingRect().contains(seen));
+        QVERIFY(view->boundingRect().contains(chip->mapRectToItem(view, chip->boundingRect())));
         press(Qt::Key_Space);
         QCOMPARE(m_menu->featureNameList(0).size(), 59);
         QVERIFY(find(find(view, "feature58"), "removeButton")->hasActiveFocus());
-        setFeatures({QStringLiteral("Gain")});
-        click(find(view, "removeButton"));
-        QVERIFY(m_menu->featureNameList(0).isEmpty());
-        QVERIFY(field(0)->hasActiveFocus());
-        QVERIFY(!view->isVisible());
-    }
-
-    void takesFeaturesFromOurTablesOnly_data()
-    {
-        QTest::addColumn<int>("userTabIndex");
-        QTest::addColumn<QString>("source");
-        QTest::addColumn<bool>("taken");
-        QTest::newRow("our table") << 1 << "tesseraTableView" << true;
-        QTest::newRow("no tab") << -1 << "tesseraTableView" << false;
-        QTest::newRow("our tree") << 1 << "treeView" << false;
-        QTest::newRow("another application") << 1 << "" << false;
     }
 
     void takesFeaturesFromOurTablesOnly()
     {
-        QFETCH(int, userTabIndex);
-        QFETCH(QString, source);
-        QFETCH(bool, taken);
         show();
-        m_menu->setUserTabIndex(userTabIndex);
+        m_menu->setUserTabIndex(1);
         QQuickItem *area = find(m_menu, "dragAndDrop");
         // An item of the scene can be dragged without a window system.
         QQmlComponent component(m_window->engine());
         component.setData("import QtQuick 2.15\n"
-                          "Item { Drag.active: x > 0; Drag.source: objectName ? this : null\n"
+                          "Item { Drag.active: x > 0; Drag.source: this\n"
                           "function drop() { Drag.drop() } }",
                           {});
-        const std::unique_ptr<QQuickItem> dragged(qobject_cast<QQuickItem *>(component.create()));
-        dragged->setParentItem(m_menu);
-        dragged->setObjectName(source);
-        dragged->setPosition(area->mapToItem(m_menu, area->boundingRect().center()));
-        QTEST(area->property("containsDrag").toBool(), "taken");
-        QMetaObject::invokeMethod(dragged.get(), "drop");
-        QCOMPARE(m_menu->featureNameList(1).size(), taken ? 1 : 0);
-    }
-
-    void drawsTheIconsOfTheStyle()
-    {
-        CStandardIconProvider provider;
-        const QString known = QStringLiteral("SP_TitleBarCloseButton");
-        QSize size;
-        QVERIFY(!provider.requestPixmap(known, &size, {-1, -1}).isNull());
-        QVERIFY(!size.isEmpty());
-        const QString unknown = QStringLiteral("SP_DialogOkButton");
-        const QImage nothing = provider.requestPixmap(unknown, nullptr, {8, 4}).toImage();
-        QCOMPARE(nothing.size(), QSize(8, 4));
-        QCOMPARE(qAlpha(nothing.pixel(4, 2)), 0);
+        for (const char *source : {"treeView", "tesseraTableView"}) {
+            const std::unique_ptr<QQuickItem> dragged(
+                qobject_cast<QQuickItem *>(component.create()));
+            dragged->setParentItem(m_menu);
+            dragged->setObjectName(QLatin1String(source));
+            dragged->setPosition(area->mapToItem(m_menu, area->boundingRect().center()));
+            QMetaObject::invokeMethod(dragged.get(), "drop");
+            const bool isOurs = qstrcmp(source, "tesseraTableView") == 0;
+            QCOMPARE(m_menu->featureNameList(1).size(), isOurs ? 1 : 0);
+        }
     }
 
 private:
+    void prepare() override
+    {
+        m_window.reset(createOptionsWindow());
+        m_menu = qobject_cast<CFeatureOptionsMenu *>(m_window->rootObject());
+        QVERIFY(m_menu);
+        m_menu->setParameterCollection(m_collection);
+        // By name, as the signals are the scene's.
+        const QMetaObject *type = m_menu->metaObject();
+        const std::map<const char *, const char *> connections {
+            {"nameChanged(int,QString)", "onNameChanged(int,QString)"},
+            {"addFeature(int,QString)", "onAddFeature(int,QString)"},
+            {"removeFeature(int,QString)", "onRemoveFeature(int,QString)"},
+            {"remove(int)", "onRemove(int)"},
+        };
+        for (const auto &[signal, slot] : connections) {
+            QVERIFY(QMetaObject::connect(m_menu, type->indexOfSignal(signal), m_menu,
+                                         type->indexOfSlot(slot)));
+        }
+    }
+    void release() override
+    {
+        m_window.reset();
+    }
     void show(const QStringList &features = {})
     {
         m_menu->selectFirstNamedTab();
@@ -290,7 +228,6 @@ private:
         QTest::keyClick(m_window.get(), key);
     }
 
-    Tests::WarningGuard m_guard;
     std::unique_ptr<QQuickView> m_window;
     CFeatureOptionsMenu *m_menu = nullptr; // owned by the window
 };

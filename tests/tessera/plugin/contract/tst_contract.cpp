@@ -2,57 +2,26 @@
 // SPDX-License-Identifier: MIT
 
 #include "plugin/contract/core/baseexception.h"
-#include "plugin/contract/core/id.h"
 #include "plugin/contract/genapi/invalidargumentexception.h"
 #include "plugin/contract/parametercollection/booleanparameter.h"
-#include "plugin/contract/parametercollection/booleanparameterdata.h"
 #include "plugin/contract/parametercollection/commandparameter.h"
-#include "plugin/contract/parametercollection/commandparameterdata.h"
 #include "plugin/contract/parametercollection/enumparameter.h"
-#include "plugin/contract/parametercollection/enumparameterdata.h"
 #include "plugin/contract/parametercollection/floatparameter.h"
-#include "plugin/contract/parametercollection/floatparameterdata.h"
 #include "plugin/contract/parametercollection/integerparameter.h"
-#include "plugin/contract/parametercollection/integerparameterdata.h"
 #include "plugin/contract/parametercollection/parametercollection.h"
-#include "plugin/contract/parametercollection/parametername.h"
-#include "plugin/contract/parametercollection/stringparameterdata.h"
 
 #include <QLibrary>
-#include <QSet>
 #include <QTest>
 
 #include <stdexcept>
 
 using namespace ParameterCollection;
-using SnapshotPtr = QSharedPointer<const ParameterData>;
 
 class TestContract : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void freshSnapshotsHoldTheirDefaults()
-    {
-        const QVector<SnapshotPtr> snapshots {
-            SnapshotPtr(new ParameterData),        SnapshotPtr(new IntegerParameterData),
-            SnapshotPtr(new BooleanParameterData), SnapshotPtr(new FloatParameterData),
-            SnapshotPtr(new CommandParameterData), SnapshotPtr(new StringParameterData),
-            SnapshotPtr(new EnumParameterData)};
-        for (int type = 0; type < snapshots.size(); ++type) {
-            const ParameterData &fresh = *snapshots.at(type);
-            QCOMPARE(int(fresh.type), type);
-            QCOMPARE(fresh.visibility, int(GenApi::UndefinedVisibility));
-            QVERIFY(!fresh.isReadable && !fresh.isWritable && !fresh.isImplemented);
-            QVERIFY(fresh.isValid && fresh.valueText.isEmpty());
-        }
-        const IntegerParameterData integer;
-        QVERIFY(integer.minimum == 0 && integer.maximum == 0 && integer.increment == 0);
-        const FloatParameterData number;
-        QVERIFY(number.minimum == 0.0 && number.maximum == 0.0 && number.displayPrecision == 0);
-        QVERIFY(!number.hasIncrement && !CommandParameterData().isDone);
-    }
-
     void typesOfSignalsAreRegistered()
     {
         for (const char *name :
@@ -94,16 +63,6 @@ private Q_SLOTS:
             QCOMPARE(e.what(), "from afar");
             QVERIFY(QByteArray(e.sourceFile()).endsWith("contractmodule.cpp"));
         }
-    }
-
-    void namesAndIdsAreValuesComparedByText()
-    {
-        const ParameterName width(QStringLiteral("Width"));
-        const ParameterName other(QStringLiteral("width"));
-        QVERIFY(width == ParameterName(QStringLiteral("Width")) && width != other);
-        QCOMPARE(QSet<ParameterName>({width, width, other}).size(), 2);
-        const Core::CId id("Tessera.Widget.User0");
-        QVERIFY(id.withSuffix("menuItem") == Core::CId("Tessera.Widget.User0.menuItem"));
     }
 
 private:

