@@ -188,7 +188,7 @@ bool CFeatureTreeWidget::isUserPane() const
 
 void CFeatureTreeWidget::onToggleVisibility()
 {
-    m_windowService->setDockWidgetVisible(m_id, m_menuAction->isChecked());
+    runGuarded([this] { m_windowService->setDockWidgetVisible(m_id, m_menuAction->isChecked()); });
 }
 
 // The window Edit Feature Tabs comes and goes with the All pane.

@@ -8,6 +8,7 @@
 #include "internal/legacy/browser/featuretreewidget.h"
 #include "internal/view/featureoptionsmenu.h"
 #include "plugin/contract/appcore/windowservice.h"
+#include "plugin/services/exceptionbarrier.h"
 
 #include <QAction>
 #include <QGuiApplication>
@@ -51,6 +52,8 @@ void CFeatureTreeWidget::connectOptionsMenu()
         connectByName(menu, "addFeature(int,QString)", menu, "onAddFeature(int,QString)");
         connectByName(menu, "removeFeature(int,QString)", menu, "onRemoveFeature(int,QString)");
         connectByName(menu, "remove(int)", menu, "onRemove(int)");
+    }
+    if (isAllPane() && m_optionsWindow) {
         m_currentScreen = QGuiApplication::primaryScreen();
         if (m_currentScreen) {
             connect(m_currentScreen, &QScreen::logicalDotsPerInchChanged, this,
@@ -147,7 +150,8 @@ void CFeatureTreeWidget::onAdd()
     setFeatureNameList(list);
     m_menuAction->setVisible(!name.isEmpty());
     m_menuAction->setChecked(!name.isEmpty());
-    m_windowService->setDockWidgetVisible(m_id, !name.isEmpty());
+    // The window closes whatever the host says.
+    runGuarded([&] { m_windowService->setDockWidgetVisible(m_id, !name.isEmpty()); });
     closeOptionsWindow();
 }
 

@@ -16,6 +16,7 @@
 #include "plugin/contract/parametercollection/parametercollection.h"
 #include "plugin/contract/viewer/featuretreeusecaseservice.h"
 #include "plugin/contract/viewer/parameterservice.h"
+#include "plugin/services/exceptionbarrier.h"
 
 #include <QAction>
 #include <QDrag>
@@ -83,7 +84,9 @@ void CFeatureTreeWidget::onParameterSourceRegistered(BaseInfoPtr ptrInfo)
         logMissingInfo();
         return;
     }
-    const CollectionPtr collection = m_parameterService->parameterCollection(ptrInfo);
+    // An exception of the host must not keep the source from the panes after this one.
+    CollectionPtr collection;
+    runGuarded([&] { collection = m_parameterService->parameterCollection(ptrInfo); });
     if (!collection) {
         logMissingCollection();
         return;
@@ -100,8 +103,9 @@ void CFeatureTreeWidget::addSource(const BaseInfoPtr &info, const CollectionPtr 
     }
     connect(collection.data(), &IParameterCollection::nodeMapAttached, this,
             &CFeatureTreeWidget::onParameterCollectionAttached, Qt::UniqueConnection);
-    const QStringList paths = collection->attachedParameterPaths();
-    for (const QString &path : paths) {
+    QStringList paths;
+    runGuarded([&] { paths = collection->attachedParameterPaths(); });
+    for (const QString &path : qAsConst(paths)) {
         attachCollection(browser, collection, info, path);
     }
     // Shown at once, before any word of the host.
@@ -117,12 +121,12 @@ FeatureTreeWidget *CFeatureTreeWidget::createBrowser(const BaseInfoPtr &info,
     browser->setDeviceParameterService(m_parameterService);
     connect(browser, &FeatureTreeWidget::pollingStateChanged, this,
             &CFeatureTreeWidget::onPollingStateChanged);
-    browser->setUserTabMode(!isAllPane());
     browser->setAddNewFavoriteButtonVisible(isAllPane());
     if (isAllPane()) {
         connect(browser, &FeatureTreeWidget::addFavoriteButtonClicked, this,
                 &CFeatureTreeWidget::onAddFavoriteButtonClicked);
     }
+    browser->setUserTabMode(!isAllPane());
     // The window works with the source that came last.
     if (Internal::View::CFeatureOptionsMenu *menu = optionsMenu()) {
         menu->setParameterCollection(collection);
@@ -177,14 +181,18 @@ void CFeatureTreeWidget::setCurrentBrowser(FeatureTreeWidget *browser)
     if (browser == m_currentBrowser) {
         return;
     }
-    takeOutCurrentBrowser();
     if (!browser) {
+        disconnectBrowser(m_currentBrowser);
+        layout()->removeWidget(m_currentBrowser);
         showHint();
+        m_currentBrowser->hide();
         if (m_optionsWindow) {
             m_optionsWindow->setVisible(false);
         }
+        m_currentBrowser = nullptr;
         return;
     }
+    takeOutCurrentBrowser();
     layout()->addWidget(browser);
     applyUseCases(browser);
     browser->show();

@@ -22,6 +22,7 @@
 #include "plugin/services/servicelookup.h"
 
 #include <QApplication>
+#include <QScopeGuard>
 
 #include <memory>
 
@@ -130,17 +131,20 @@ bool CTesseraPlugin::findHostServices()
 // Until it is docked, a pane does not outlive an exception.
 CTesseraPlugin::PanePtr CTesseraPlugin::addPane(const char *id, const QString &word, bool visible)
 {
-    auto pane = std::make_unique<CFeatureTreeWidget>(
-        m_menuService, m_controlService, m_parameterService, m_useCaseService, m_windowService,
-        Core::CId(id), m_optionsWindow, m_hasWorkbench);
+    const PanePtr pane = new CFeatureTreeWidget(m_menuService, m_controlService, m_parameterService,
+                                                m_useCaseService, m_windowService, Core::CId(id),
+                                                m_optionsWindow, m_hasWorkbench);
+    auto halfBuilt = qScopeGuard([&pane] { delete pane.data(); }); // the host may have done so
     pane->setWindowTitle(tr("Features") + QStringLiteral(" \u2013 ") + word);
     using Status = FeatureTree::IFeatureTreeStatusService;
     Status *status = m_statusService.data();
-    connect(pane.get(), &CFeatureTreeWidget::visibilityChanged, status, &Status::visibilityChanged);
-    connect(pane.get(), &CFeatureTreeWidget::currentChanged, status, &Status::currentChanged);
-    connect(pane.get(), &CFeatureTreeWidget::newText, status, &Status::newText);
-    m_windowService->addDockWidget(Core::CId(id), pane.get(), featurePaneArea, visible, false);
-    return pane.release();
+    connect(pane.data(), &CFeatureTreeWidget::visibilityChanged, status,
+            &Status::visibilityChanged);
+    connect(pane.data(), &CFeatureTreeWidget::currentChanged, status, &Status::currentChanged);
+    connect(pane.data(), &CFeatureTreeWidget::newText, status, &Status::newText);
+    m_windowService->addDockWidget(Core::CId(id), pane.data(), featurePaneArea, visible, false);
+    halfBuilt.dismiss();
+    return pane;
 }
 
 bool CTesseraPlugin::start()

@@ -223,8 +223,11 @@ FeatureOptionsMenu {
             onEntered: drag.accepted = optionsMenu.takes(drag)
             onDropped: {
                 if (optionsMenu.takes(drop)) {
+                    const before = features.count;
                     optionsMenu.addFeature(optionsMenu.userTabIndex, drop.text);
-                    flow.revealed = features.count - 1;
+                    if (features.count > before) {
+                        flow.revealed = features.count - 1;
+                    }
                 }
             }
 
