@@ -7,25 +7,31 @@
 
 #include <QAbstractItemView>
 #include <QChildEvent>
+#include <QPalette>
 #include <QWidget>
 
 LightFrame::LightFrame(QWidget *frame)
     : QObject(frame)
     , m_frame(frame)
 {
+    m_frame->installEventFilter(this);
     followSystem();
 }
 
-// The highlight is the system's.
 void LightFrame::followSystem()
 {
-    m_light = lightPalette();
-    paint(m_frame);
+    const bool wasPainting = m_isPainting;
+    m_isPainting = isSystemDark();
+    if (m_isPainting) {
+        paint(m_frame);
+    } else if (wasPainting) {
+        release(m_frame);
+    }
 }
 
 void LightFrame::paint(QWidget *widget)
 {
-    QPalette light = m_light;
+    QPalette light = lightPalette();
     if (qobject_cast<QAbstractItemView *>(widget)) {
         light.setBrush(QPalette::Disabled, QPalette::Base, light.base());
         if (widget->palette().highlight().color().alpha() == 0) {
@@ -41,11 +47,28 @@ void LightFrame::paint(QWidget *widget)
     }
 }
 
+void LightFrame::release(QWidget *widget)
+{
+    QPalette own;
+    if (widget->palette().color(QPalette::Highlight).alpha() == 0) {
+        own.setColor(QPalette::Highlight, Qt::transparent);
+    }
+    widget->setPalette(own);
+    if (widget != m_frame) {
+        widget->removeEventFilter(this);
+    }
+    const QList<QWidget *> parts =
+        widget->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget *part : parts) {
+        release(part);
+    }
+}
+
 bool LightFrame::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ApplicationPaletteChange && watched == m_frame) {
         followSystem();
-    } else if (event->type() == QEvent::ChildPolished) {
+    } else if (m_isPainting && event->type() == QEvent::ChildPolished) {
         if (auto *part = qobject_cast<QWidget *>(static_cast<QChildEvent *>(event)->child())) {
             paint(part);
         }

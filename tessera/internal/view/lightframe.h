@@ -4,12 +4,12 @@
 #pragma once
 
 #include <QObject>
-#include <QPalette>
 
 class QWidget;
 
-/// Gives all widgets in a white frame, also those made later, the light palette: below a style
-/// sheet a widget takes none from its parent but that of the system, which may be dark.
+/// Keeps a white frame readable under a dark system palette: gives all widgets in it, also those
+/// made later, the light palette: below a style sheet a widget takes none from its parent. Under a
+/// light system palette it does nothing.
 class LightFrame final : public QObject
 {
     Q_OBJECT
@@ -23,7 +23,8 @@ public:
 private:
     void followSystem();
     void paint(QWidget *widget);
+    void release(QWidget *widget);
 
     QWidget *m_frame; // borrowed, the parent
-    QPalette m_light;
+    bool m_isPainting = false;
 };

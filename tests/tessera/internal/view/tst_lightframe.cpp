@@ -39,6 +39,8 @@ private Q_SLOTS:
             QVERIFY(line->palette().color(QPalette::Text).lightness() < 128);
             QVERIFY(line->palette().color(QPalette::Base).lightness() > 128);
         }
+        QApplication::setPalette(light);
+        QCOMPARE(late->palette().color(QPalette::Button), light.color(QPalette::Button));
     }
 };
 
