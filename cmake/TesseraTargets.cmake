@@ -53,7 +53,8 @@ function(tessera_add_test)
     set(platform offscreen)
     if(arg_NEEDS_DISPLAY)
         set(platform xcb)
-        set_property(TEST ${arg_NAME} PROPERTY LABELS display)
+        # One at a time: windows cover each other, and there is one pointer.
+        set_tests_properties(${arg_NAME} PROPERTIES LABELS display RESOURCE_LOCK screen)
     endif()
     set(timeout 300)
     if(TESSERA_SANITIZE) # slows a test down tenfold and more

@@ -69,8 +69,9 @@ bool LightFrame::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::ApplicationPaletteChange && watched == m_frame) {
         followSystem();
     } else if (m_isPainting && event->type() == QEvent::ChildPolished) {
-        if (auto *part = qobject_cast<QWidget *>(static_cast<QChildEvent *>(event)->child())) {
-            paint(part);
+        QObject *child = static_cast<QChildEvent *>(event)->child();
+        if (child->isWidgetType()) {
+            paint(static_cast<QWidget *>(child));
         }
     }
     return QObject::eventFilter(watched, event);

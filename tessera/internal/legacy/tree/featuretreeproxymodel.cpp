@@ -155,6 +155,14 @@ int FeatureTreeProxyModel::rowCount(const QModelIndex &parent) const
     return loadBelow(parent) ? QSortFilterProxyModel::rowCount(parent) : 0;
 }
 
+int FeatureTreeProxyModel::columnCount(const QModelIndex &parent) const
+{
+    if (loadBelow(parent)) {
+        return QSortFilterProxyModel::columnCount(parent);
+    }
+    return sourceModel() ? sourceModel()->columnCount(mapToSource(parent)) : 0;
+}
+
 QModelIndex FeatureTreeProxyModel::createItemIndex(FeatureTreeItem *item, int column)
 {
     return source() ? mapFromSource(source()->createItemIndex(item, column)) : QModelIndex();

@@ -4,7 +4,7 @@
 #pragma once
 
 namespace ParameterCollection {
-class ParameterData;
+struct ParameterData;
 } // namespace ParameterCollection
 
 /// True when both snapshots are of one type and tell the same, so that nothing on the screen
