@@ -60,6 +60,7 @@ Needs ofList(const QComboBox &list)
     Needs needs {{list.currentText(), sizeOf(list, list.currentText()), room}};
     const QWidget *popup = list.view();
     const int width = qMax(popup->minimumWidth(), list.width());
+    needs.reserve(list.count() + 1);
     for (int i = 0; i < list.count(); ++i) {
         const QSize size = sizeOf(*popup, list.itemText(i));
         needs.append({list.itemText(i), size, {width, size.height()}});
@@ -70,6 +71,7 @@ Needs ofList(const QComboBox &list)
 Needs ofHeader(const QHeaderView &header)
 {
     Needs needs;
+    needs.reserve(header.count());
     for (int i = 0; header.orientation() == Qt::Horizontal && i < header.count(); ++i) {
         needs.append({header.model()->headerData(i, Qt::Horizontal).toString(),
                       {header.sectionSizeHint(i), header.sizeHint().height()},
@@ -94,6 +96,7 @@ Needs ofDock(const QDockWidget &dock)
 Needs ofTabs(const QTabBar &tabs)
 {
     Needs needs;
+    needs.reserve(tabs.count());
     for (int i = 0; i < tabs.count(); ++i) {
         needs.append({tabs.tabText(i), sizeOf(tabs, tabs.tabText(i)), tabs.tabRect(i).size()});
     }
@@ -104,6 +107,7 @@ Needs ofMenuBar(const QMenuBar &bar)
 {
     Needs needs;
     const auto actions = bar.actions();
+    needs.reserve(actions.size());
     for (const QAction *action : actions) {
         needs.append(
             {action->text(), sizeOf(bar, action->text()),
@@ -158,7 +162,7 @@ Needs needsOf(const QWidget &widget)
     return widget.inherits("SearchEdit") ? ofSearchLine(widget) : Needs();
 }
 
-QString line(const QObject &owner, const QString &text, const QSizeF &size, const QSizeF &room)
+QString line(const QObject &owner, const QString &text, QSizeF size, QSizeF room)
 {
     return QStringLiteral("%1 %2 \"%3\" needs %4x%5, has %6x%7")
         .arg(QLatin1String(owner.metaObject()->className()), owner.objectName(), text)

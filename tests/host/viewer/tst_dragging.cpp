@@ -143,6 +143,7 @@ private:
     {
         QStringList names;
         const QTableView *list = table(pane);
+        names.reserve(list ? list->model()->rowCount() : 0);
         for (int row = 0; list && row < list->model()->rowCount(); ++row) {
             names.append(list->model()->index(row, 0).data(fullNameRole).toString());
         }

@@ -416,6 +416,7 @@ private:
     {
         QStringList names;
         const QAbstractItemModel &model = *table(pane)->model();
+        names.reserve(model.rowCount());
         for (int row = 0; row < model.rowCount(); ++row) {
             names.append(
                 model.index(row, 0).data(fullNameRole).toString().section(QLatin1Char('/'), 1));

@@ -270,7 +270,7 @@ private Q_SLOTS:
                 == tip.translation;
         }));
         QCOMPARE(QKeySequence(text("FeatureTreeWidget", "Ctrl+Up")),
-                 QKeySequence(Qt::CTRL | Qt::Key_Up));
+                 QKeySequence(QStringLiteral("Ctrl+Up")));
         if (code != QLatin1String("en")) {
             QVERIFY(text("QPlatformTheme", "Cancel") != QLatin1String("Cancel"));
         }

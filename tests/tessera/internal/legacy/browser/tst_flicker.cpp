@@ -14,11 +14,11 @@
 #include <QApplication>
 #include <QtTest>
 
-namespace {
-
 /// Counts what is painted in a window.
 class PaintCounter final : public QObject
 {
+    Q_OBJECT
+
 public:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
@@ -29,8 +29,6 @@ public:
     }
     int count = 0;
 };
-
-} // namespace
 
 class tst_Flicker : public QObject
 {
