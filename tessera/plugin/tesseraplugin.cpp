@@ -131,7 +131,7 @@ bool CTesseraPlugin::findHostServices()
 // Until it is docked, a pane does not outlive an exception.
 CTesseraPlugin::PanePtr CTesseraPlugin::addPane(const char *id, const QString &word, bool visible)
 {
-    const PanePtr pane = new CFeatureTreeWidget(m_menuService, m_controlService, m_parameterService,
+    PanePtr pane = new CFeatureTreeWidget(m_menuService, m_controlService, m_parameterService,
                                                 m_useCaseService, m_windowService, Core::CId(id),
                                                 m_optionsWindow, m_hasWorkbench);
     auto halfBuilt = qScopeGuard([&pane] { delete pane.data(); }); // the host may have done so
