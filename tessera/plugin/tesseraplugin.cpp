@@ -132,8 +132,8 @@ bool CTesseraPlugin::findHostServices()
 CTesseraPlugin::PanePtr CTesseraPlugin::addPane(const char *id, const QString &word, bool visible)
 {
     PanePtr pane = new CFeatureTreeWidget(m_menuService, m_controlService, m_parameterService,
-                                                m_useCaseService, m_windowService, Core::CId(id),
-                                                m_optionsWindow, m_hasWorkbench);
+                                          m_useCaseService, m_windowService, Core::CId(id),
+                                          m_optionsWindow, m_hasWorkbench);
     auto halfBuilt = qScopeGuard([&pane] { delete pane.data(); }); // the host may have done so
     pane->setWindowTitle(tr("Features") + QStringLiteral(" \u2013 ") + word);
     using Status = FeatureTree::IFeatureTreeStatusService;
