@@ -54,6 +54,8 @@ function(tessera_add_test)
     if(arg_NEEDS_DISPLAY)
         set(platform xcb)
         set_property(TEST ${arg_NAME} PROPERTY LABELS display)
+        # One pointer, one keyboard focus: never two such tests at a time.
+        set_property(TEST ${arg_NAME} PROPERTY RESOURCE_LOCK display)
     endif()
     set(timeout 300)
     if(TESSERA_SANITIZE) # slows a test down tenfold and more
