@@ -20,6 +20,9 @@ namespace Plugin::Tessera::Internal::View {
 
 namespace {
 
+// Shared by all tables, which is meant.
+const QAbstractItemModel *lastModel = nullptr;
+
 bool takesTab(const QWidget &widget)
 {
     return (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.isEnabled() && widget.isVisible()
@@ -30,6 +33,7 @@ bool takesTab(const QWidget &widget)
 
 CFeatureTableView::CFeatureTableView(QWidget *parent)
     : QTableView(parent)
+    , m_features(lastModel)
 {
     dressFeatureView(*this);
     setTabKeyNavigation(false);

@@ -8,6 +8,7 @@
 
 #include "internal/legacy/tree/featuretreeview.h"
 
+#include <QApplication>
 #include <QPushButton>
 #include <QShortcut>
 #include <QShortcutEvent>
@@ -59,7 +60,7 @@ const BrowserShortcuts &BrowserShortcuts::chosen() const
     const QList<FeatureTreeWidget *> browsers =
         m_browser->window()->findChildren<FeatureTreeWidget *>();
     const auto hasFocus = [](const FeatureTreeWidget *each) {
-        return each->isAncestorOf(each->window()->focusWidget());
+        return each->isAncestorOf(QApplication::focusWidget());
     };
     auto found = std::find_if(browsers.cbegin(), browsers.cend(), hasFocus);
     if (found == browsers.cend()) {

@@ -35,7 +35,7 @@ void EscapePresses::reset()
 
 bool EscapePresses::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::KeyPress
+    if ((event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride)
         && static_cast<const QKeyEvent *>(event)->key() != Qt::Key_Escape) {
         reset();
     }

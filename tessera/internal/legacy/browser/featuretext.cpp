@@ -100,7 +100,7 @@ private:
             m_text += QLatin1Char('\t') + value(*data);
         }
         m_text += QLatin1Char('\n');
-        writeChildren(path, level + 1);
+        writeChildren(parameter->fullName(), level + 1);
     }
 
     IParameterCollection &m_collection;

@@ -23,6 +23,7 @@
 #include "internal/view/usecaseedit.h"
 #include "plugin/contract/viewer/devicebaseinfo.h"
 #include "plugin/contract/viewer/parameterservice.h"
+#include "plugin/services/exceptionbarrier.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -276,7 +277,8 @@ QList<FeatureTreeItem *> FeatureTreeWidget::userTabItems(const QStringList &name
 {
     CollectionPtr collection;
     if (m_parameterService) {
-        collection = m_parameterService->parameterCollection(m_sourceInfo);
+        Plugin::Tessera::runGuarded(
+            [&] { collection = m_parameterService->parameterCollection(m_sourceInfo); });
     } else {
         logBrowserFault(QStringLiteral("Plugin::CameraPool::IDeviceParameterService not set!"));
     }

@@ -141,14 +141,19 @@ void FeatureTreeWidget::onVisibilityChanged(int value)
         return;
     }
     const auto level = static_cast<GenApi::EVisibility>(value);
+    const QPointer<FeatureTreeWidget> self(this); // a source may close while events are processed
     m_ui->treeView->setVisibility(level);
     m_ui->tableView->setVisibility(level);
     treeProxy()->setVisibility(value);
     tableProxy()->setVisibility(value);
     searchAgain();
     Q_EMIT visibilityChanged(level);
-    onFilterTextChanged(m_filterText);
-    searchAgain();
+    if (self) {
+        onFilterTextChanged(m_filterText);
+    }
+    if (self) {
+        searchAgain();
+    }
 }
 
 void FeatureTreeWidget::onCheckBoxUnavailableFavsTriggered(bool checked)
@@ -167,7 +172,11 @@ void FeatureTreeWidget::onShowTreeViewClicked(bool checked)
     model->setShowTreeView(checked);
     m_ui->treeView->delegate()->setShowTreeView(checked);
     m_ui->treeView->repaint();
+    const QPointer<FeatureTreeWidget> self(this); // a source may close while events are processed
     onFilterTextChanged(m_filterText);
+    if (!self) {
+        return;
+    }
     m_useCaseIndex = -1;
     onUseCaseComboBoxCurrentIndexChanged(m_ui->useCaseComboBox->currentIndex());
     m_ui->treeView->setCurrentIndex(indexAlong(path, *treeProxy()));

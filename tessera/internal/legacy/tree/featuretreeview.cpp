@@ -17,6 +17,9 @@
 
 namespace {
 
+// Shared by all trees, which is meant.
+const QAbstractItemModel *lastModel = nullptr;
+
 // A category stays for the sake of what can be seen below it.
 bool isShownAt(FeatureTreeItem &item, int level)
 {
@@ -36,6 +39,7 @@ bool isShownAt(FeatureTreeItem &item, int level)
 
 FeatureTreeView::FeatureTreeView(QWidget *parent)
     : QTreeView(parent)
+    , m_features(lastModel)
 {
     dressFeatureView(*this);
     QPalette colors = palette();

@@ -10,16 +10,10 @@
 
 #include <QAbstractItemView>
 
-namespace {
-
-// The model that was last given a level, in whichever view. Only compared: it may be gone.
-const QAbstractItemModel *&lastModel()
+ViewedFeatures::ViewedFeatures(const QAbstractItemModel *&lastModel)
+    : m_lastModel(lastModel)
 {
-    static const QAbstractItemModel *model = nullptr;
-    return model;
 }
-
-} // namespace
 
 void ViewedFeatures::setModel(QAbstractItemModel *model)
 {
@@ -56,11 +50,11 @@ int ViewedFeatures::level() const
 
 void ViewedFeatures::setLevel(GenApi::EVisibility level)
 {
-    if (level == m_level && m_model == lastModel()) {
+    if (level == m_level && m_model == m_lastModel) {
         return;
     }
     m_level = level;
-    lastModel() = m_model;
+    m_lastModel = m_model;
     if (extension()) {
         extension()->pollNodes({});
     }

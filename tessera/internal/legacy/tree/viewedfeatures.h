@@ -20,6 +20,10 @@ class QString;
 class ViewedFeatures final
 {
 public:
+    /// `lastModel` is the model that was last given a level, in whichever view of a kind. It is
+    /// only compared and may be gone; the place outlives the views.
+    explicit ViewedFeatures(const QAbstractItemModel *&lastModel);
+
     /// Takes note of the model that a view now has. May be null.
     void setModel(QAbstractItemModel *model);
 
@@ -34,7 +38,7 @@ public:
 
     int level() const;
     /// Has the model read what changed, unless neither the level nor the model is another than the
-    /// last time, in whichever view.
+    /// last time, in whichever view of the kind.
     void setLevel(GenApi::EVisibility level);
 
     /// True for a cell whose editor stays open while it can be seen, whether it can be used or not.
@@ -43,6 +47,7 @@ public:
     bool mayOpenEditor(const QModelIndex &value) const;
 
 private:
+    const QAbstractItemModel *&m_lastModel;
     QPointer<QAbstractItemModel> m_model; // borrowed
     IFeatureTreeModelExtension *m_extension = nullptr; // borrowed, lives as long as m_model
     int m_level = GenApi::Guru;
