@@ -7,6 +7,7 @@
 #include "devicesview.h"
 #include "documentationview.h"
 #include "featurecontextmenu.h"
+#include "focusmark.h"
 #include "languagemenu.h"
 #include "logview.h"
 #include "sourcesession.h"
@@ -44,6 +45,21 @@ QDockWidget *addDock(QMainWindow *window, const QString &name, const QString &ti
     dock->setWidget(content);
     window->addDockWidget(area, dock);
     return dock;
+}
+
+// What stands in a dock behind another counts as visible, but nobody sees it.
+bool isBehind(const QWidget *widget)
+{
+    while (widget && !qobject_cast<const QDockWidget *>(widget)) {
+        widget = widget->parentWidget();
+    }
+    return widget && widget->visibleRegion().isEmpty();
+}
+
+bool isTabStop(const QWidget &widget)
+{
+    return (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.isEnabled() && widget.isVisible()
+        && !widget.focusProxy() && !isBehind(&widget);
 }
 
 QString layoutKey(const char *name)
@@ -144,6 +160,8 @@ void MainWindow::makeDocks()
                                new LogView(this), Qt::BottomDockWidgetArea);
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     m_docks = {devices, documentation, log};
+    new FocusMark(documentation->widget());
+    new FocusMark(log->widget());
 }
 
 // The first start: most of the window belongs to the features.
@@ -161,6 +179,21 @@ void MainWindow::arrangeDocks()
         resizeDocks({*features, documentation}, {height() * 3 / 4, height() / 4}, Qt::Vertical);
     }
     resizeDocks({documentation, log}, {width() * 3 / 10, width() * 4 / 10}, Qt::Horizontal);
+}
+
+// The base would also stop where nobody can see it.
+bool MainWindow::focusNextPrevChild(bool next)
+{
+    QWidget *from = focusWidget() ? focusWidget() : this;
+    QWidget *target = from;
+    do {
+        target = next ? target->nextInFocusChain() : target->previousInFocusChain();
+    } while (target != from && !isTabStop(*target));
+    if (target == from) {
+        return false;
+    }
+    target->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 QMenu *MainWindow::makeContainerMenu(const Core::CId &id, const QString &title)

@@ -46,6 +46,7 @@ public:
     void saveLayout() const;
 
 protected:
+    bool focusNextPrevChild(bool next) override;
     void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 

@@ -3,6 +3,8 @@
 
 #include "featuretableview.h"
 
+#include "tabstop.h"
+
 #include "internal/legacy/tree/featuretreedelegate.h"
 #include "internal/legacy/tree/featuretreeinodeitem.h"
 #include "internal/legacy/tree/featuretreeproxymodel.h"
@@ -22,12 +24,6 @@ namespace {
 
 // Shared by all tables, which is meant.
 const QAbstractItemModel *lastModel = nullptr;
-
-bool takesTab(const QWidget &widget)
-{
-    return (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.isEnabled() && widget.isVisible()
-        && !widget.focusProxy();
-}
 
 } // namespace
 
@@ -344,12 +340,8 @@ bool CFeatureTableView::focusNextPrevChild(bool next)
     if (!hasFocus()) {
         return QTableView::focusNextPrevChild(next);
     }
-    QWidget *target = this;
-    do {
-        target = next ? target->nextInFocusChain() : target->previousInFocusChain();
-    } while (target != this
-             && (isAncestorOf(target) || !takesTab(*target) || target->window() != window()));
-    if (target == this) {
+    QWidget *target = nextTabStop(this, next);
+    if (!target) {
         return false;
     }
     target->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);

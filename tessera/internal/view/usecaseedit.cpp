@@ -11,7 +11,7 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QEvent>
+#include <QKeyEvent>
 
 namespace Plugin::Tessera::Internal::View {
 
@@ -30,7 +30,7 @@ CUseCaseEdit::CUseCaseEdit(QWidget *parent)
     setFont(lineFont);
     m_crossAction = addTrailingCross(this);
     if (m_crossAction) {
-        m_crossAction->setToolTip(tr("Leave the use case"));
+        m_crossAction->setText(tr("Leave the use case")); // the tool tip as well
         connect(m_crossAction, &QAction::triggered, this, &CUseCaseEdit::onCrossActionTriggered);
     }
     setReadOnly(true);
@@ -63,6 +63,22 @@ void CUseCaseEdit::updateColours()
     setStyleSheet(QStringLiteral("QLineEdit { border: 1px solid %1; border-radius: 0px; "
                                  "background-color: %2;}")
                       .arg(lightStyleColour(QPalette::Mid, "mid"), QColor(255, 216, 147).name()));
+}
+
+// The keys that would empty a line that can be edited, and those that press a button.
+void CUseCaseEdit::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Backspace:
+    case Qt::Key_Delete:
+    case Qt::Key_Enter:
+    case Qt::Key_Return:
+    case Qt::Key_Space:
+        Q_EMIT onCrossActionTriggered();
+        break;
+    default:
+        QLineEdit::keyPressEvent(event);
+    }
 }
 
 void CUseCaseEdit::changeEvent(QEvent *event)

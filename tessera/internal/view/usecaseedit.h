@@ -9,8 +9,8 @@ class QAction;
 
 namespace Plugin::Tessera::Internal::View {
 
-/// Shows the use case in force, with a cross to leave it. Stands in for the box that it was chosen
-/// from.
+/// Shows the use case in force, with a cross to leave it; Delete, Enter and Space leave it too.
+/// Stands in for the box that it was chosen from.
 class CUseCaseEdit final : public QLineEdit
 {
     Q_OBJECT
@@ -27,6 +27,7 @@ public Q_SLOTS:
     void setText(const QString &text);
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 

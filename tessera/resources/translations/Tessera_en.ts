@@ -66,6 +66,14 @@
         <source>&lt;not readable&gt;</source>
         <translation>&lt;not readable&gt;</translation>
     </message>
+    <message>
+        <source>on</source>
+        <translation>on</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>off</translation>
+    </message>
 </context>
 <context>
     <name>FeatureTreeModel</name>

@@ -66,6 +66,14 @@
         <source>&lt;not readable&gt;</source>
         <translation>&lt;読み取り不可&gt;</translation>
     </message>
+    <message>
+        <source>on</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>オフ</translation>
+    </message>
 </context>
 <context>
     <name>FeatureTreeModel</name>

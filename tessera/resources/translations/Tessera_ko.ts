@@ -66,6 +66,14 @@
         <source>&lt;not readable&gt;</source>
         <translation>&lt;읽을 수 없음&gt;</translation>
     </message>
+    <message>
+        <source>on</source>
+        <translation>켜짐</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>꺼짐</translation>
+    </message>
 </context>
 <context>
     <name>FeatureTreeModel</name>

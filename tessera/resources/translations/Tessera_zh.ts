@@ -66,6 +66,14 @@
         <source>&lt;not readable&gt;</source>
         <translation>&lt;不可读&gt;</translation>
     </message>
+    <message>
+        <source>on</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>关</translation>
+    </message>
 </context>
 <context>
     <name>FeatureTreeModel</name>

@@ -1,37 +1,28 @@
 // SPDX-FileCopyrightText: 2026 Tessera contributors
 // SPDX-License-Identifier: MIT
 
+#include "viewertest.h"
+
 #include "support/treetext.h"
-#include "support/warningguard.h"
 
 #include <host/framework/exceptionreport.h>
 #include <host/simulation/parameters/faults.h>
-#include <host/simulation/simulatedcollection.h>
-#include <host/simulation/simulatedsource.h>
-#include <host/viewer/mainwindow.h>
-#include <host/viewer/sourcesession.h>
-#include <host/viewer/viewerapplication.h>
 #include <host/viewer/visibilitylevel.h>
 
 #include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
-#include <QDockWidget>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QProcess>
 #include <QScrollBar>
 #include <QSlider>
 #include <QSplitter>
-#include <QTableView>
-#include <QTreeView>
-#include <QtTest>
 
 #include <algorithm>
 
 using Viewer::SourceSession;
-using Viewer::ViewerApplication;
 
 namespace {
 
@@ -40,13 +31,6 @@ const QString gige = QStringLiteral("simulated:gige");
 const QString usb = QStringLiteral("simulated:usb");
 const QString workbench = QStringLiteral("simulated:workbench");
 const QString imageFormat = QStringLiteral("Image Format Control");
-const QString all = QStringLiteral("All");
-const QString basic = QStringLiteral("Basic");
-
-QString path(const char *name)
-{
-    return QLatin1String("@CameraDevice/") + QLatin1String(name);
-}
 
 void drag(QWidget *widget, QPoint from, QPoint by)
 {
@@ -60,26 +44,15 @@ void drag(QWidget *widget, QPoint from, QPoint by)
 
 /// The built module in the viewer's own window, over the simulated cameras: from keys and mouse on
 /// the screen to the camera's memory and back.
-class EndToEndTest : public QObject
+class EndToEndTest final : public ViewerTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_guard.begin();
-        m_settings.reset(new QTemporaryDir);
-        QSettings::setDefaultFormat(QSettings::IniFormat);
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings->path());
-        start();
-    }
-
     void cleanup()
     {
         Host::setExceptionReportHook({});
-        m_viewer->shutDown();
-        m_viewer.reset();
-        m_guard.verify();
+        ViewerTest::cleanup();
     }
 
     void writesWhatIsTyped_data()
@@ -166,7 +139,7 @@ private Q_SLOTS:
                             : QStringLiteral("Source Camera"));
             QTRY_VERIFY(editor(shared));
             type(editor(shared), id == usb ? QStringLiteral("2000") : QStringLiteral("3000"));
-            QVERIFY(table(basic)->model()->rowCount() > 1);
+            QVERIFY(table("Basic")->model()->rowCount() > 1);
         }
         QCOMPARE(rootShown(), QStringLiteral("Camera"));
         QTRY_COMPARE(source(workbench)->deviceValue(shared), QVariant(3000.0));
@@ -183,7 +156,7 @@ private Q_SLOTS:
         }
         QTRY_COMPARE(session->activeIndex(), -1);
         QVERIFY(!tree());
-        QVERIFY(!table(basic));
+        QVERIFY(!table("Basic"));
     }
 
     void unpluggingUnderAnOpenEditorIsSurvived_data()
@@ -243,17 +216,17 @@ private Q_SLOTS:
         click(imageFormat);
         QVERIFY(cell(path("Width")).isValid());
         QVERIFY(cell(path("SensorWidth")).isValid());
-        m_viewer->window()->visibilityLevel()->setLevel(0);
+        window()->visibilityLevel()->setLevel(0);
         QVERIFY(cell(path("Width")).isValid());
         QVERIFY(!cell(path("SensorWidth")).isValid());
-        m_viewer->window()->visibilityLevel()->setLevel(2);
+        window()->visibilityLevel()->setLevel(2);
         QVERIFY(cell(path("SensorWidth")).isValid());
     }
 
     void copiesTheFeaturesAsText()
     {
         QGuiApplication::clipboard()->clear();
-        QTest::keyClick(m_viewer->window(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+        QTest::keyClick(window(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
         const QStringList lines = QGuiApplication::clipboard()->text().split(QLatin1Char('\n'));
         QCOMPARE(lines.constFirst(), QStringLiteral("TO-5000G (305174)"));
         QVERIFY(lines.size() > 250);
@@ -268,70 +241,37 @@ private Q_SLOTS:
     {
         const auto widths = [this] {
             return QVector<int> {tree()->width(), table()->columnWidth(0),
-                                 table(basic)->columnWidth(0)};
+                                 table("Basic")->columnWidth(0)};
         };
         click(imageFormat);
-        auto *splitter = view<QSplitter>(all, "splitter");
+        auto *splitter = widget<QSplitter>("splitter");
         QWidget *handle = splitter->handle(1);
         drag(handle, handle->rect().center(), {40, 0});
         QHeaderView *header = table()->horizontalHeader();
         drag(header->viewport(), {header->sectionSize(0) - 1, header->height() / 2}, {-35, 0});
 
-        auto *dock =
-            m_viewer->window()->findChild<QDockWidget *>(QStringLiteral("Tessera.Widget.Basic"));
-        dock->raise();
-        header = table(basic)->horizontalHeader();
+        dock("Basic")->raise();
+        header = table("Basic")->horizontalHeader();
         QTRY_VERIFY(header->isVisible());
         drag(header->viewport(), {header->sectionSize(0) - 1, header->height() / 2}, {30, 0});
-        const QModelIndex second = table(basic)->model()->index(1, 0);
-        QTest::mouseClick(table(basic)->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          table(basic)->visualRect(second).center());
-        QTest::keyClick(table(basic), Qt::Key_Up, Qt::ControlModifier);
-        const QString names = namesShown(basic);
+        const QModelIndex second = table("Basic")->model()->index(1, 0);
+        QTest::mouseClick(table("Basic")->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          table("Basic")->visualRect(second).center());
+        QTest::keyClick(table("Basic"), Qt::Key_Up, Qt::ControlModifier);
+        const QString names = namesShown("Basic");
         QVERIFY2(names.startsWith(QLatin1String("Height Width ")), qPrintable(names));
         const QVector<int> before = widths();
 
         m_viewer->session()->closeAll();
-        m_viewer->window()->close();
+        window()->close();
         m_viewer->shutDown();
         start();
-        QCOMPARE(namesShown(basic), names);
-        m_viewer->window()->findChild<QDockWidget *>(QStringLiteral("Tessera.Widget.All"))->raise();
+        QCOMPARE(namesShown("Basic"), names);
+        dock("All")->raise();
         QTRY_COMPARE(widths(), before);
     }
 
 private:
-    void start()
-    {
-        m_viewer.reset(new ViewerApplication({}));
-        m_viewer->start(QStringLiteral(PLUGIN_FOLDER));
-        // Without a window manager nobody else gives the window the focus.
-        m_viewer->window()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_viewer->window()));
-    }
-
-    // The one that is in sight: a pane keeps one for each source.
-    template<typename View> View *view(const QString &pane, const char *name) const
-    {
-        const auto *dock =
-            m_viewer->window()->findChild<QDockWidget *>(QLatin1String("Tessera.Widget.") + pane);
-        const auto views = dock->findChildren<View *>(QLatin1String(name));
-        const auto visible = std::find_if(views.cbegin(), views.cend(), [&](const View *candidate) {
-            return candidate->isVisibleTo(dock);
-        });
-        return visible == views.cend() ? nullptr : *visible;
-    }
-
-    QTreeView *tree() const
-    {
-        return view<QTreeView>(all, "treeView");
-    }
-
-    QTableView *table(const QString &pane = all) const
-    {
-        return view<QTableView>(pane, "tesseraTableView");
-    }
-
     QString rootShown() const
     {
         return tree() ? tree()->model()->index(0, 0).data().toString() : QString();
@@ -349,7 +289,7 @@ private:
     }
 
     // The value of a feature in the table, scrolled into view.
-    QModelIndex cell(const QString &feature, const QString &pane = all) const
+    QModelIndex cell(const QString &feature, const QByteArray &pane = "All") const
     {
         const QAbstractItemModel &model = *table(pane)->model();
         const QModelIndexList found =
@@ -412,7 +352,7 @@ private:
         return session->source(session->indexOf(id))->collection();
     }
 
-    QString namesShown(const QString &pane) const
+    QString namesShown(const QByteArray &pane) const
     {
         QStringList names;
         const QAbstractItemModel &model = *table(pane)->model();
@@ -423,10 +363,6 @@ private:
         }
         return names.join(QLatin1Char(' '));
     }
-
-    QScopedPointer<QTemporaryDir> m_settings;
-    Tests::WarningGuard m_guard;
-    QScopedPointer<ViewerApplication> m_viewer;
 };
 
 QTEST_MAIN(EndToEndTest)

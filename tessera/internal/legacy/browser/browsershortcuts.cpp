@@ -7,6 +7,7 @@
 #include "searchedit.h"
 
 #include "internal/legacy/tree/featuretreeview.h"
+#include "internal/view/featuretableview.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -25,6 +26,8 @@ BrowserShortcuts::BrowserShortcuts(FeatureTreeWidget *browser, const BrowserWidg
     add(widgets.filterEdit, QKeySequence(QStringLiteral("Ctrl+F")), &BrowserShortcuts::focusSearch);
     add(widgets.treeView, QKeySequence(all | Qt::Key_Minus), &BrowserShortcuts::collapseAll);
     add(browser, QKeySequence(all | Qt::Key_Plus), &BrowserShortcuts::expandAll);
+    addMenuKey(widgets.treeView);
+    addMenuKey(widgets.tableView);
     widgets.resetButton->installEventFilter(this);
 }
 
@@ -33,6 +36,17 @@ void BrowserShortcuts::add(QWidget *place, const QKeySequence &keys, Act act)
     auto *shortcut = new QShortcut(keys, place);
     connect(shortcut, &QShortcut::activated, this, [this, act] { (this->*act)(); });
     connect(shortcut, &QShortcut::activatedAmbiguously, this, [this, act] { (chosen().*act)(); });
+}
+
+// The menu key reaches a view by itself; this one does so on some systems only.
+void BrowserShortcuts::addMenuKey(QAbstractItemView *view)
+{
+    auto *shortcut = new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F10), view);
+    shortcut->setContext(Qt::WidgetShortcut);
+    connect(shortcut, &QShortcut::activated, view, [view] {
+        view->scrollTo(view->currentIndex());
+        Q_EMIT view->customContextMenuRequested(view->visualRect(view->currentIndex()).center());
+    });
 }
 
 void BrowserShortcuts::focusSearch() const

@@ -10,11 +10,13 @@
 #include <functional>
 
 class FeatureTreeWidget;
+class QAbstractItemView;
 class QKeySequence;
 class QPushButton;
 
 /// The keys of a browser that have no menu entry: F3 and Ctrl+F go to the search, with Ctrl, Alt
-/// and Shift the minus key closes and the plus key opens all categories, F5 refreshes.
+/// and Shift the minus key closes and the plus key opens all categories, F5 refreshes, Shift+F10
+/// opens the menu of the current row.
 ///
 /// Where several browsers stand in one window, the key belongs to the one with the focus, else to
 /// the first that can be seen.
@@ -37,6 +39,7 @@ private:
     using Act = void (BrowserShortcuts::*)() const;
 
     void add(QWidget *place, const QKeySequence &keys, Act act);
+    static void addMenuKey(QAbstractItemView *view);
     /// Those of the browser that a key of this window belongs to.
     const BrowserShortcuts &chosen() const;
 

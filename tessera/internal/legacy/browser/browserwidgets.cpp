@@ -17,6 +17,7 @@
 #include <QFrame>
 #include <QHeaderView>
 #include <QIcon>
+#include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -184,6 +185,11 @@ void BrowserWidgets::describe() const
     const auto name = [](QWidget *widget, const QString &text) { widget->setAccessibleName(text); };
     name(filterEdit, QCoreApplication::translate("FeatureTreeWidgetClass", "Search"));
     name(useCaseComboBox, QCoreApplication::translate("FeatureTreeWidgetClass", "Use case"));
+    name(useCaseComboBox->view(), useCaseComboBox->accessibleName());
+    // On some systems a box is read out by its label only; this one is never seen.
+    auto *label = new QLabel(useCaseComboBox->accessibleName(), frame);
+    label->setBuddy(useCaseComboBox);
+    label->hide();
     name(useCaseEdit, QCoreApplication::translate("FeatureTreeWidgetClass", "Use case"));
     name(treeView, QCoreApplication::translate("FeatureTreeWidgetClass", "Categories"));
     name(tableView, QCoreApplication::translate("FeatureTreeWidgetClass", "Features"));

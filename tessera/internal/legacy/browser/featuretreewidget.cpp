@@ -19,6 +19,7 @@
 #include "internal/model/featuretablemodel.h"
 #include "internal/view/featuretableview.h"
 #include "internal/view/screenratio.h"
+#include "internal/view/tabstop.h"
 #include "internal/view/treeviewheaderview.h"
 #include "internal/view/usecaseedit.h"
 #include "plugin/contract/viewer/devicebaseinfo.h"
@@ -415,6 +416,20 @@ bool FeatureTreeWidget::event(QEvent *event)
         }
     }
     return isHandled;
+}
+
+// Tab passes over the editors in the table; so does Shift+Tab on its way back.
+bool FeatureTreeWidget::focusNextPrevChild(bool next)
+{
+    CFeatureTableView *table = m_ui->tableView;
+    QWidget *from = focusWidget();
+    const QWidget *stop =
+        !next && from && !table->isAncestorOf(from) ? nextTabStop(from, false) : nullptr;
+    if (stop && (stop == table || table->isAncestorOf(stop))) {
+        table->setFocus(Qt::BacktabFocusReason);
+        return true;
+    }
+    return QWidget::focusNextPrevChild(next);
 }
 
 // Two presses of Escape empty the search.

@@ -82,7 +82,11 @@ void FeatureTreeWidget::onUseCaseComboBoxCurrentIndexChanged(int index)
 
 void FeatureTreeWidget::onUseCaseEditAction()
 {
+    const bool hadFocus = m_ui->useCaseEdit->hasFocus();
     m_ui->useCaseComboBox->setCurrentIndex(0);
+    if (hadFocus) { // the box takes its place
+        m_ui->useCaseComboBox->setFocus(Qt::OtherFocusReason);
+    }
 }
 
 // Events are processed on the way, so the browser may be gone when they return.

@@ -41,7 +41,7 @@ SearchEdit::SearchEdit(QWidget *parent)
     m_lensAction->setEnabled(false); // a picture, no button
     m_clearAction = addTrailingCross(this);
     if (m_clearAction) {
-        m_clearAction->setToolTip(tr("Clear the search"));
+        m_clearAction->setText(tr("Clear the search")); // the tool tip as well
         connect(m_clearAction, &QAction::triggered, this, &QLineEdit::clear);
         m_clearAction->setVisible(false);
     }

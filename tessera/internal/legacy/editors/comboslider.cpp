@@ -182,6 +182,11 @@ void ComboSlider::onSliderValueChanged(int val)
     }
 }
 
+bool ComboSlider::focusNextPrevChild(bool next)
+{
+    return focusOtherPart(m_spinBox, m_slider, next) || QWidget::focusNextPrevChild(next);
+}
+
 QSlider *ComboSlider::slider() const
 {
     return m_slider;

@@ -58,6 +58,8 @@ protected Q_SLOTS:
     void onSliderValueChanged(int val);
 
 protected:
+    bool focusNextPrevChild(bool next) override;
+
     QSlider *slider() const;
 
 private:

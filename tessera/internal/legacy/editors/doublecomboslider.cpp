@@ -218,6 +218,11 @@ void DoubleComboSlider::enableUpdate(bool enable)
     m_updateGate.setOpen(enable);
 }
 
+bool DoubleComboSlider::focusNextPrevChild(bool next)
+{
+    return focusOtherPart(m_spinBox, m_slider, next) || QWidget::focusNextPrevChild(next);
+}
+
 QSlider *DoubleComboSlider::slider() const
 {
     return m_slider;

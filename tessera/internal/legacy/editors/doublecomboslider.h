@@ -76,6 +76,8 @@ Q_SIGNALS:
     void rangeChanged(int min, int max);
 
 protected:
+    bool focusNextPrevChild(bool next) override;
+
     QSlider *slider() const;
     VantrelQtDoubleSpinBox *spinBox() const;
     UpdateGate &updateGate();

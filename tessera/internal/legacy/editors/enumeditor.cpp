@@ -75,6 +75,7 @@ QVariant EnumEditor::editorValue() const
 
 void EnumEditor::showPopup()
 {
+    view()->setAccessibleName(accessibleName());
     QComboBox::showPopup();
     QWidget *popup = view()->window();
     if (popup->isVisible()) {

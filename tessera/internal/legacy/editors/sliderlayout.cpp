@@ -43,3 +43,16 @@ int layOutSlider(QWidget *editor, QAbstractSpinBox *spinBox, QSlider *slider)
     editor->setFocusProxy(spinBox);
     return width;
 }
+
+bool focusOtherPart(QAbstractSpinBox *spinBox, QSlider *slider, bool next)
+{
+    if (next && spinBox->hasFocus()) {
+        slider->setFocus(Qt::TabFocusReason);
+        return true;
+    }
+    if (!next && slider->hasFocus()) {
+        spinBox->setFocus(Qt::BacktabFocusReason);
+        return true;
+    }
+    return false;
+}

@@ -11,3 +11,8 @@ class QWidget;
 /// Returns the least width of the spin box in pixels: that of a number of twelve digits in its font
 /// and style.
 int layOutSlider(QWidget *editor, QAbstractSpinBox *spinBox, QSlider *slider);
+
+/// Tab leads from the spin box to the slider, Shift+Tab (not `next`) back. False where the focus
+/// stays: it leaves the editor then. A view that opens the editor puts its first part only into its
+/// own order.
+bool focusOtherPart(QAbstractSpinBox *spinBox, QSlider *slider, bool next);

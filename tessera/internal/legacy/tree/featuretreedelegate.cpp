@@ -15,6 +15,7 @@
 #include "plugin/contract/viewer/stylehelper.h"
 #include "plugin/services/exceptionbarrier.h"
 
+#include <QComboBox>
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QLineEdit>
@@ -115,12 +116,16 @@ QWidget *FeatureTreeDelegate::createEditor(QWidget *parent, const QStyleOptionVi
 
 void FeatureTreeDelegate::describe(QWidget *editor, const FeatureTreeINodeItem &item)
 {
-    editor->setAccessibleName(item.text());
-    const QString description = item.plainDescription();
-    editor->setAccessibleDescription(description);
+    const QString name = item.text();
+    QString description = item.plainDescription();
+    if (qobject_cast<QComboBox *>(editor)) {
+        description.prepend(name + QLatin1Char('\n')); // on some systems its name is the entry
+    }
     // Of an editor of several parts, the one that has the keyboard is the one that is read out.
-    if (QWidget *part = editor->focusProxy()) {
-        part->setAccessibleName(item.text());
+    QList<QWidget *> parts = editor->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    parts.append(editor);
+    for (QWidget *part : qAsConst(parts)) {
+        part->setAccessibleName(name);
         part->setAccessibleDescription(description);
     }
 }

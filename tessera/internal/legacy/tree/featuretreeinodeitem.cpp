@@ -15,7 +15,9 @@
 #include "plugin/constants/itemroles.h"
 #include "plugin/constants/logcategories.h"
 #include "plugin/contract/core/logging.h"
+#include "plugin/contract/parametercollection/booleanparameterdata.h"
 #include "plugin/contract/parametercollection/commandparameter.h"
+#include "plugin/contract/parametercollection/enumparameterdata.h"
 #include "plugin/contract/parametercollection/floatparameter.h"
 #include "plugin/contract/parametercollection/parametercollection.h"
 #include "plugin/contract/parametercollection/parameternode.h"
@@ -254,6 +256,10 @@ QVariant FeatureTreeINodeItem::valueData(int role) const
             return {};
         }
         return m_parameterData->valueText;
+    case Qt::AccessibleTextRole: {
+        const QString value = spokenValue();
+        return value.isEmpty() ? text() : QStringLiteral("%1: %2").arg(text(), value);
+    }
     default:
         return FeatureTreeItem::data(1, role);
     }
@@ -273,6 +279,24 @@ QVariant FeatureTreeINodeItem::valueText() const
         }
     }
     return hasInlineEditor() ? QVariant() : m_parameterData->valueText;
+}
+
+// Also of a value that an editor shows: a row is read out before anybody enters its editor, and a
+// switch or a button has the keyboard in the row only.
+QString FeatureTreeINodeItem::spokenValue() const
+{
+    const QVariant drawn = valueText();
+    if (drawn.isValid()) {
+        return drawn.toString();
+    }
+    if (const auto boolean = m_parameterData.dynamicCast<const BooleanParameterData>()) {
+        return boolean->value ? tr("on") : tr("off");
+    }
+    if (const auto choice = m_parameterData.dynamicCast<const EnumParameterData>()) {
+        const QString &entry = choice->valueText;
+        return choice->entryDisplayNames.value(choice->entryNames.indexOf(entry), entry);
+    }
+    return m_parameterData->type == Command ? QString() : m_parameterData->valueText;
 }
 
 QString FeatureTreeINodeItem::richToolTip() const

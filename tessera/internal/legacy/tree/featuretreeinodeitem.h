@@ -84,6 +84,7 @@ private: // NOLINT(readability-redundant-access-specifiers): ends the slots
     QVariant nameData(int role) const;
     QVariant valueData(int role) const;
     QVariant valueText() const;
+    QString spokenValue() const;
     QString richToolTip() const;
     void writeNumber(const QVariant &value);
     void writeText(const QString &text);
