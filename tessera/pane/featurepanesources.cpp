@@ -325,12 +325,12 @@ void CFeatureTreeWidget::removeSource(const BaseInfoPtr &info)
     discard(browser);
 }
 
-// A signal of the browser, or a drag out of it, may stand below: they must find it when they
-// return.
+// A signal of the browser, a search in it or a drag out of it may stand below: they must find it
+// when they return.
 void CFeatureTreeWidget::discard(FeatureTreeWidget *browser)
 {
     const auto *drag = browser->findChild<QDrag *>();
-    if (m_browserSignals == 0 && !drag) {
+    if (m_browserSignals == 0 && !drag && !browser->isSearching()) {
         delete browser;
         return;
     }
@@ -338,6 +338,8 @@ void CFeatureTreeWidget::discard(FeatureTreeWidget *browser)
     browser->hide();
     if (drag) {
         connect(drag, &QObject::destroyed, browser, &QObject::deleteLater);
+    } else if (browser->isSearching()) {
+        connect(browser, &FeatureTreeWidget::searchEnded, browser, &QObject::deleteLater);
     } else {
         m_discarded.append(browser);
     }

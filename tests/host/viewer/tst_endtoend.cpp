@@ -187,6 +187,18 @@ private Q_SLOTS:
         QTRY_VERIFY(!opened);
     }
 
+    void unpluggingDuringASearchIsSurvived()
+    {
+        auto *search = widget<QLineEdit>("filterEdit");
+        const QPointer<QWidget> line = search;
+        search->setFocus();
+        source(gige)->unplug();
+        m_viewer->session()->requestClose(m_viewer->session()->activeIndex());
+        QTest::keyClick(search, Qt::Key_G); // events are processed while it is searched
+        QVERIFY(line && !line->isVisible());
+        QTRY_VERIFY(!line);
+    }
+
     // With the wheel of the pointer itself, which first gives the focus where it may.
     void theWheelNeedsTheFocus()
     {

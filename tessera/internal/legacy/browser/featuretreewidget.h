@@ -80,6 +80,9 @@ public:
     void setFirstSectionSize(int width);
     /// Reads what has changed on the device.
     void refresh();
+    /// True while `onFilterTextChanged` runs: it processes events, and who is called by one of
+    /// them must not delete the browser before `searchEnded`.
+    bool isSearching() const;
     /// The item of the table's current row, else of the tree's; null for none.
     FeatureTreeItem *currentItem() const;
 
@@ -105,6 +108,8 @@ Q_SIGNALS:
     void categoryColumnWidthChanged(int width);
     /// A row of a user tab was moved.
     void orderOfTableItemsChanged(int from, int to);
+    /// The outermost search has come to its end.
+    void searchEnded();
     /// The user asks for the Edit Feature Tabs window.
     void addFavoriteButtonClicked();
 
@@ -183,6 +188,7 @@ private:
     QAction *m_actionTogglePolling = nullptr; // by parent
     QString m_filterSubPath;
     bool m_firstFilterPending = true; // the first search shows the wait cursor
+    int m_searches = 0; // that run now, one within the other
     QString m_filterText;
     Core::AppCoreComponents::BaseInfoPtr m_sourceInfo;
     qint32 m_useCaseIndex = 0; // applied last; -1 has the next one applied in any case

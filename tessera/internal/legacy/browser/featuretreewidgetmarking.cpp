@@ -19,6 +19,7 @@
 
 #include <QComboBox>
 #include <QGuiApplication>
+#include <QScopeGuard>
 
 #include <algorithm>
 
@@ -93,6 +94,12 @@ void FeatureTreeWidget::onUseCaseEditAction()
 void FeatureTreeWidget::onFilterTextChanged(const QString &newText)
 {
     const QPointer<FeatureTreeWidget> self(this);
+    ++m_searches;
+    const auto ended = qScopeGuard([self] {
+        if (self && --self->m_searches == 0) {
+            Q_EMIT self->searchEnded();
+        }
+    });
     m_filterText = newText;
     if (m_firstFilterPending) {
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
@@ -112,6 +119,11 @@ void FeatureTreeWidget::onFilterTextChanged(const QString &newText)
         expandTree();
     }
     refreshRows();
+}
+
+bool FeatureTreeWidget::isSearching() const
+{
+    return m_searches > 0;
 }
 
 void FeatureTreeWidget::search(const QString &text)
