@@ -41,7 +41,7 @@ void BrowserShortcuts::add(QWidget *place, const QKeySequence &keys, Act act)
 // The menu key reaches a view by itself; this one does so on some systems only.
 void BrowserShortcuts::addMenuKey(QAbstractItemView *view)
 {
-    auto *shortcut = new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F10), view);
+    auto *shortcut = new QShortcut(QKeySequence(QStringLiteral("Shift+F10")), view);
     shortcut->setContext(Qt::WidgetShortcut);
     connect(shortcut, &QShortcut::activated, view, [view] {
         view->scrollTo(view->currentIndex());
