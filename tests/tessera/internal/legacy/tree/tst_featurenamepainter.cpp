@@ -48,7 +48,6 @@ private Q_SLOTS:
         QTest::addColumn<QColor>("color");
         const QString part = QStringLiteral("sure");
         const QString all = QStringLiteral(" exposure TIME ");
-        QTest::newRow("category") << true << false << false << part << window;
         QTest::newRow("category with a hit below") << true << true << true << part << search;
         QTest::newRow("feature of the use case") << false << true << false << all << favorite;
         QTest::newRow("hit on the whole name") << false << true << true << all << search;
@@ -69,8 +68,6 @@ private Q_SLOTS:
         const QImage image = paint();
         QCOMPARE(image.pixelColor(m_rect.left() + 1, 2), color);
         QCOMPARE(image.pixelColor(m_rect.right() - 1, 28), color);
-        QCOMPARE(image.pixelColor(m_rect.left() - 2, 15), QColor(Qt::white));
-        QCOMPARE(image.pixelColor(m_rect.right() + 2, 15), QColor(Qt::white));
     }
 
     void marksEachHitInTheText()
@@ -85,16 +82,6 @@ private Q_SLOTS:
         }
         QCOMPARE(stretches, 3);
         QCOMPARE(image.pixelColor(m_rect.right() - 1, 0), window);
-    }
-
-    void framesAHitInThePath()
-    {
-        setRole(IsSearchMatchRole, true);
-        setRole(IsFavoriteMatchRole, true);
-        m_searchText = QStringLiteral("timeabs");
-        const QImage image = paint();
-        QCOMPARE(image.pixelColor(m_rect.center().x(), 2), search);
-        QCOMPARE(image.pixelColor(m_rect.right() - 20, 15), window);
     }
 
     void endsAHitAtTheElision()
@@ -139,16 +126,6 @@ private Q_SLOTS:
         m_delegate->setShowTreeView(true);
         QCOMPARE(firstInk(), top);
         QCOMPARE(paint().pixelColor(1, 15), QColor(Qt::white));
-    }
-
-    void pointsToCategoriesWithFeatures()
-    {
-        setRole(IsCategoryRole, true);
-        const int width = m_view.style()->pixelMetric(QStyle::PM_IndicatorWidth);
-        const QRect place(m_rect.right() - width + 1, 0, width, 30);
-        QCOMPARE(count(paint(), place, window), width * 30);
-        setRole(HasShownFeatureRole, true);
-        QVERIFY(count(paint(), place, window) < width * 30);
     }
 
 private:

