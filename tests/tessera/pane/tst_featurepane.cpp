@@ -104,18 +104,6 @@ private Q_SLOTS:
         QCOMPARE(treeShown(), QStringLiteral("Two\n  Image\nLater\n"));
     }
 
-    void logsWhatItIsNotGiven()
-    {
-        for (const char *text : {"Info", "Info", "ParameterCollection"}) {
-            expectFault("featureTreeDockWidget",
-                        QStringLiteral("%1 is null.").arg(QLatin1String(text)));
-        }
-        m_control->registerParameterSource({});
-        m_control->unregisterParameterSource({});
-        m_control->registerParameterSource(source("Device"));
-        QVERIFY(!shown());
-    }
-
     void forwardsWhatItsBrowserTells()
     {
         const BaseInfoPtr first = addCamera(QStringLiteral("One"));

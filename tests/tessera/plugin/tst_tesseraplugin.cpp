@@ -179,22 +179,17 @@ private Q_SLOTS:
 
     void survivesAHostThatThrows_data()
     {
-        QTest::addColumn<QString>("call");
         QTest::addColumn<int>("count");
         QTest::addColumn<QString>("doing");
-        const auto row = [](const char *call, int count, const char *doing) {
-            QTest::addRow("%s %d", call, count)
-                << QString::fromLatin1(call) << count << QString::fromLatin1(doing);
-        };
-        row("registerAction", 2, "adding Tessera to DockWidget"); // while a pane is there
-        row("addDockWidget", 6, "adding Tessera to DockWidget");
-        row("removeDockWidget", 2, "removing FeatureTreeWidgetBasicSettings");
-        row("unregisterAction", 6, "deleting FeatureTreeWidgetUserSettings");
+        // While a pane is there.
+        QTest::newRow("registerAction") << 2 << "adding Tessera to DockWidget";
+        QTest::newRow("addDockWidget") << 6 << "adding Tessera to DockWidget";
+        QTest::newRow("removeDockWidget") << 2 << "removing FeatureTreeWidgetBasicSettings";
+        QTest::newRow("unregisterAction") << 6 << "deleting FeatureTreeWidgetUserSettings";
     }
 
     void survivesAHostThatThrows()
     {
-        QFETCH(QString, call);
         QFETCH(int, count);
         QFETCH(QString, doing);
         const int widgets = QApplication::allWidgets().size();
@@ -207,7 +202,7 @@ private Q_SLOTS:
         };
         for (const auto &[fault, entry] : entries) {
             m_guard.expectLogEntry(ELogLevel::Failure, category, entry.arg(doing));
-            m_trap = {call, count, fault};
+            m_trap = {QString::fromLatin1(QTest::currentDataTag()), count, fault};
             QCOMPARE(initialize(), starts);
             QVERIFY(starts || arePanesGone());
             QVERIFY(m_plugin->uninitialize(m_registry));

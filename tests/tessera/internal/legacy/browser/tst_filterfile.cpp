@@ -41,9 +41,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("winner");
         const QString ofModel = QStringLiteral("/Shipped_FilterTest_Filter.xml");
         const QString backslash = QStringLiteral("\\Shipped_FilterTest_Filter.xml");
-        const QString ofRole = QStringLiteral("/FilterTest_Filter.xml");
         QTest::newRow("backslash") << QStringList({ofModel, backslash}) << backslash;
-        QTest::newRow("resource before next name") << QStringList(ofRole) << "resource";
+        QTest::newRow("resource before next name")
+            << QStringList(QStringLiteral("/FilterTest_Filter.xml")) << "resource";
     }
     void firstFileThatOpensIsTheOnlyOne()
     {

@@ -94,17 +94,6 @@ private Q_SLOTS:
         QVERIFY(count(paint(), QRect(0, 0, 1000, 30), search) > 0);
     }
 
-    void showsHoverSelectionAndTheColourOfTheItem()
-    {
-        const QImage hovered = paint(QStyle::State_Enabled | QStyle::State_MouseOver);
-        QVERIFY(hovered.pixelColor(m_rect.right() - 1, 2) != window);
-        const QImage bold = paint(QStyle::State_Enabled | QStyle::State_Selected);
-        QVERIFY(count(paint(), m_rect, window) > count(bold, m_rect, window));
-        m_model.item(0)->setText(QString(12, QChar(0x2588)));
-        setRole(Qt::ForegroundRole, QBrush(QColor(Qt::blue)));
-        QVERIFY(count(paint(), m_rect, Qt::blue) > 100);
-    }
-
     void movesDeepRowsToTheLeftEdge()
     {
         const auto firstInk = [this] {
@@ -140,14 +129,14 @@ private:
         setRole(DepthRole, 1);
         setRole(RelativePathRole, QStringLiteral("ExposureTimeAbs"));
     }
-    QImage paint(QStyle::State state = QStyle::State_Enabled)
+    QImage paint()
     {
         QImage image(160 + 240 * m_scale, 30, QImage::Format_RGB32);
         image.fill(Qt::white);
         QStyleOptionViewItem option;
         option.initFrom(&m_view);
         option.widget = &m_view;
-        option.state = state;
+        option.state = QStyle::State_Enabled;
         option.rect = m_rect;
         option.palette.setColor(QPalette::Window, window);
         option.palette.setColor(QPalette::Text, Qt::black);

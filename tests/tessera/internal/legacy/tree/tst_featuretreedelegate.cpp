@@ -28,19 +28,19 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("lines");
         QTest::addColumn<QByteArray>("editor");
-        const auto row = [](const char *name, const char *lines, const char *editor) {
-            QTest::newRow(name) << QString::fromLatin1(lines) << QByteArray(editor);
-        };
-        row("integer", "F Integer 1", "IntEditor");
-        row("linear integer", "F Integer 1 rep=Linear", "IntSliderEditor");
-        row("float", "F Float 1", "FloatEditor");
-        row("linear float without a companion", "F Float 1 rep=Linear", "FloatEditor");
-        row("linear float", "F Float 1 rep=Linear\nF/Alias Integer 1", "FloatSliderEditor");
-        row("enumeration", "F Enum A entries=A,B", "EnumEditor");
-        row("switch", "F Boolean 1", "CheckBoxEditor");
-        row("command", "F Command", "ToolButtonEditor");
-        row("text", "F String a", "QExpandingLineEdit");
-        row("not available", "F Boolean 1 na", "");
+        QTest::newRow("integer") << "F Integer 1" << QByteArray("IntEditor");
+        QTest::newRow("linear integer")
+            << "F Integer 1 rep=Linear" << QByteArray("IntSliderEditor");
+        QTest::newRow("float") << "F Float 1" << QByteArray("FloatEditor");
+        QTest::newRow("linear float without a companion")
+            << "F Float 1 rep=Linear" << QByteArray("FloatEditor");
+        QTest::newRow("linear float")
+            << "F Float 1 rep=Linear\nF/Alias Integer 1" << QByteArray("FloatSliderEditor");
+        QTest::newRow("enumeration") << "F Enum A entries=A,B" << QByteArray("EnumEditor");
+        QTest::newRow("switch") << "F Boolean 1" << QByteArray("CheckBoxEditor");
+        QTest::newRow("command") << "F Command" << QByteArray("ToolButtonEditor");
+        QTest::newRow("text") << "F String a" << QByteArray("QExpandingLineEdit");
+        QTest::newRow("not available") << "F Boolean 1 na" << QByteArray("");
     }
 
     void choosesTheEditor()

@@ -1,9 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Tessera contributors
 // SPDX-License-Identifier: MIT
 
-// Helpers of one test need no meta object.
-// clazy:excludeall=missing-qobject-macro
-
 #include "internal/legacy/tree/featuretreemodel.h"
 
 #include "internal/legacy/tree/featuretreeinodeitem.h"
@@ -19,22 +16,6 @@
 using Tests::Fault;
 using Tests::findRow;
 using Tests::treeText;
-
-namespace {
-
-class ThrowingItem final : public FeatureTreeItem
-{
-public:
-    using FeatureTreeItem::FeatureTreeItem;
-    QVariant data(int column, int role) const override
-    {
-        Tests::raise(isBroken ? Fault::Host : Fault::None);
-        return FeatureTreeItem::data(column, role);
-    }
-    bool isBroken = true;
-};
-
-} // namespace
 
 class tst_FeatureTreeModel : public FeatureTest
 {
@@ -142,24 +123,6 @@ private Q_SLOTS:
         QCOMPARE(row("Height", 1).data().toString(), QStringLiteral("500"));
         m_model->refreshAll();
         QCOMPARE(changed.count(), 9); // and each loaded row of three levels
-    }
-
-    void logsTheFirstOfManyFailedReads()
-    {
-        add();
-        FeatureTreeItem *image = item("Image");
-        auto *broken = new ThrowingItem(QStringLiteral("x"), m_model.get(), QString(), nullptr, 3);
-        image->appendChild(broken);
-        const QModelIndex index = m_model->createItemIndex(broken, 0);
-        for (int run = 0; run < 2; ++run) {
-            broken->isBroken = true;
-            expectLog("Failed to get a feature value");
-            QVERIFY(!index.data().isValid());
-            QVERIFY(!index.data().isValid());
-            broken->isBroken = false;
-            QCOMPARE(index.data().toString(), QStringLiteral("x"));
-        }
-        image->removeChild(broken->row());
     }
 
     void polls()

@@ -117,7 +117,6 @@ private Q_SLOTS:
         m_proxy->setFeatureNameFilter({pathOf("Rate")});
         QVERIFY(!treeText(tester).contains(QLatin1String("Image")));
         m_proxy->setFeatureNameFilter({});
-        m_proxy->markSearchMatches(QStringLiteral("pixel"));
         m_source->setShowTreeView(false);
         QVERIFY(treeText(tester).contains(QLatin1String("Image")));
         m_proxy->clear();

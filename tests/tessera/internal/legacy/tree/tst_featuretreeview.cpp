@@ -110,20 +110,6 @@ private Q_SLOTS:
         QVERIFY(empty != picture() && filtered != picture());
     }
 
-    void showsNewModelsInPlaceOfTheOld()
-    {
-        add("Image\n  Width Integer 1");
-        const QPointer<QAbstractItemModel> old = m_view->model();
-        m_view->recreateModels();
-        QVERIFY(old && old != m_view->model());
-        QCOMPARE(m_view->model()->rowCount(), 0);
-        QCOMPARE(m_view->itemDelegate(), m_view->delegate());
-        proxy().addParameterCollection(m_collection, QStringLiteral("Camera"), m_path, true);
-        *m_view->searchTextPointer() = QStringLiteral("imag");
-        const QString toolTip = value("Image").siblingAtColumn(0).data(Qt::ToolTipRole).toString();
-        QVERIFY(toolTip.contains(QLatin1String("#ffa700")));
-    }
-
 private:
     void prepare() override
     {
