@@ -83,8 +83,6 @@ private Q_SLOTS:
         }
         QCOMPARE(bySize.keys(), QList<int>({5, 9, 16, 20, 23, 39, 43, 54}));
         QCOMPARE(useCases.value(brightness).toStringList(), bySize.value(23));
-        QCOMPARE(bySize.value(39).filter(QStringLiteral("@StreamGrabber0/")).size(), 3);
-        QCOMPARE(bySize.value(16).filter(QStringLiteral("@StreamGrabber0/")).size(), 11);
         QCOMPARE(asText(service.basicUseCaseMap()).count(QLatin1String("@CameraDevice/")), 13);
 
         // Basic has an English name only.

@@ -51,19 +51,6 @@ private Q_SLOTS:
         QCOMPARE(treeText(*m_model), flat);
     }
 
-    void loadsOnDemand()
-    {
-        FeatureTreeModel bare;
-        bare.addParameterCollection(m_collection, QStringLiteral("Camera"), m_path, true);
-        const QModelIndex image = bare.index(0, 0, bare.index(0, 0));
-        const QSignalSpy inserted(&bare, &QAbstractItemModel::rowsInserted);
-        QVERIFY(!bare.itemFromIndex(image)->child(0));
-        QVERIFY(bare.hasChildren(image));
-        QCOMPARE(bare.rowCount(image), 4);
-        QCOMPARE(inserted.count(), 1);
-        QVERIFY(!node("Width").isSubscribed() && node("Width").refreshes == 0);
-    }
-
     void survivesACategoryThatHoldsItself()
     {
         node("Deep").children.append(pathOf("Image"));

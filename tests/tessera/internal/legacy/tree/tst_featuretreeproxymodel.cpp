@@ -3,7 +3,6 @@
 
 #include "internal/legacy/tree/featuretreeproxymodel.h"
 
-#include "internal/legacy/tree/featuretreeitem.h"
 #include "internal/legacy/tree/featuretreemodel.h"
 #include "support/modeltester.h"
 #include "support/treetext.h"
@@ -11,7 +10,6 @@
 
 #include <memory>
 
-using Tests::findRow;
 using Tests::treeText;
 
 namespace {
@@ -74,19 +72,6 @@ private Q_SLOTS:
             expected = categories.join(QLatin1String("\n  ")) + QLatin1Char('\n');
         }
         QCOMPARE(treeText(*m_proxy).remove(QStringLiteral(": <not implemented>")), expected);
-    }
-
-    void mapsIndexesOfItsSource()
-    {
-        add("First expert\n  A Integer 1 guru\nSecond\n  B Integer 1");
-        m_proxy->setVisibility(0);
-        m_proxy->invalidate();
-        const QModelIndex second = findRow(*m_proxy, QStringLiteral("Second"), 1);
-        QCOMPARE(second.row(), 0);
-        FeatureTreeItem *item = m_proxy->itemFromIndex(second);
-        QCOMPARE(m_proxy->createItemIndex(item, 1), second);
-        QCOMPARE(m_proxy->indexOfName(pathOf("Second"), nullptr, 1), second);
-        QVERIFY(!m_proxy->indexOfName(pathOf("First"), nullptr, 0).isValid());
     }
 
     void pollsWhatTheNameFilterShows()
