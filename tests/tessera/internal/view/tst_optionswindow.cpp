@@ -165,10 +165,11 @@ private:
         m_menu->setParameterCollection(m_collection);
         // By name, as the signals are the scene's.
         const QMetaObject *type = m_menu->metaObject();
-        for (const QByteArray signal : {"nameChanged(int,QString)", "addFeature(int,QString)",
-                                        "removeFeature(int,QString)", "remove(int)"}) {
-            const QByteArray slot = "on" + signal.left(1).toUpper() + signal.mid(1);
-            QVERIFY(QMetaObject::connect(m_menu, type->indexOfSignal(signal.constData()), m_menu,
+        for (const char *signal : {"nameChanged(int,QString)", "addFeature(int,QString)",
+                                   "removeFeature(int,QString)", "remove(int)"}) {
+            QByteArray slot(signal);
+            slot.replace(0, 1, "on" + slot.left(1).toUpper());
+            QVERIFY(QMetaObject::connect(m_menu, type->indexOfSignal(signal), m_menu,
                                          type->indexOfSlot(slot.constData())));
         }
     }

@@ -76,7 +76,8 @@ private Q_SLOTS:
         update(snapshot);
         showGain(snapshot);
         publishAlias(1001);
-        for (const auto *box : m_window->findChildren<QDoubleSpinBox *>()) {
+        const auto boxes = m_window->findChildren<QDoubleSpinBox *>();
+        for (const QDoubleSpinBox *box : boxes) {
             QCOMPARE(box->text(), QStringLiteral("5.0"));
             QCOMPARE(box->maximum(), 100.0);
         }
