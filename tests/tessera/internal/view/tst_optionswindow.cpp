@@ -3,16 +3,14 @@
 
 #include "internal/view/optionswindow.h"
 
+#include "internal/legacy/tree/displaynamecache.h"
 #include "internal/view/featureoptionsmenu.h"
-#include "internal/view/standardiconprovider.h"
 #include "tessera/featuretest.h"
 
 #include <QAccessible>
-#include <QQmlComponent>
 #include <QQuickView>
 #include <QSignalSpy>
 
-#include <map>
 #include <memory>
 
 using namespace Plugin::Tessera::Internal::View;
@@ -45,23 +43,38 @@ private Q_SLOTS:
         registerOptionsWindowTypes();
     }
 
-    void isAToolWindowOfTheScreensSize()
+    void keepsAWorkingCopyBesideTheSavedState()
     {
-        QCOMPARE(m_window->flags(), Qt::WindowFlags(0x0204100B));
-        QCOMPARE(m_window->title(), QStringLiteral(" "));
-        QCOMPARE(m_window->minimumSize(), m_window->size());
-        QCOMPARE(optionsWindowSize(100.0), QSize(364, 458));
-    }
-
-    void drawsTheIconsOfTheStyle()
-    {
-        CStandardIconProvider provider;
-        QSize size;
-        QVERIFY(!provider.requestPixmap(QStringLiteral("SP_TitleBarCloseButton"), &size, {-1, -1})
-                     .isNull());
-        QVERIFY(!size.isEmpty());
-        QCOMPARE(provider.requestPixmap(QStringLiteral("SP_None"), nullptr, {8, 4}).size(),
-                 QSize(8, 4));
+        const auto state = [this] {
+            QString text = m_menu->userTabNames().at(0) + QLatin1Char('=');
+            const auto list = m_menu->featureNameList(0);
+            for (const ParameterCollection::ParameterName &name : list) {
+                text += name.toString();
+            }
+            return text;
+        };
+        const QString a = QStringLiteral("A");
+        const QString b = QStringLiteral("B");
+        m_menu->setUserTabName(0, QStringLiteral("old"));
+        m_menu->onAddFeature(0, a);
+        m_menu->onAddFeature(0, b);
+        m_menu->onAddFeature(0, a); // is there
+        m_menu->setFeatureNameList(0, m_menu->featureNameList(0)); // confirmed
+        m_menu->onNameChanged(0, QStringLiteral("new"));
+        m_menu->onRemoveFeature(0, a);
+        QCOMPARE(state(), QStringLiteral("new=B"));
+        m_menu->onRemove(0);
+        QCOMPARE(state(), QStringLiteral("="));
+        m_menu->revertChanges();
+        QCOMPARE(state(), QStringLiteral("old=AB"));
+        m_menu->setParameterCollection({});
+        m_menu->onRemoveFeature(0, a);
+        m_menu->onRemove(4); // no such tab
+        QCOMPARE(state(), QStringLiteral("old=AB"));
+        m_menu->setUserTabName(0, QString());
+        m_menu->setUserTabName(2, QStringLiteral("c"));
+        m_menu->selectFirstNamedTab();
+        QCOMPARE(m_menu->userTabIndex(), 2);
     }
 
     void namesATabAndSelectsAnother()
@@ -84,7 +97,8 @@ private Q_SLOTS:
 
     void walksAllControlsByKey()
     {
-        show({QStringLiteral("Gain"), QStringLiteral("Width")});
+        cacheDisplayName(pathOf("Gain"), QStringLiteral("Analog Gain"));
+        show({pathOf("Gain"), QStringLiteral("@StreamGrabber0/Type/Deep")});
         press(Qt::Key_X);
         QString walked; // by the names that a screen reader tells
         for (int i = 0; i < 12; ++i) {
@@ -95,7 +109,7 @@ private Q_SLOTS:
         QCOMPARE(walked,
                  QStringLiteral("Delete feature tab 1,Name of feature tab 2,Delete feature tab 2,"
                                 "Name of feature tab 3,Delete feature tab 3,Name of feature tab 4,"
-                                "Delete feature tab 4,Remove Gain,Remove Width,OK,Cancel,"
+                                "Delete feature tab 4,Remove Analog Gain,Remove Deep,OK,Cancel,"
                                 "Name of feature tab 1,"));
         QCOMPARE(m_menu->userTabNames().at(0), QStringLiteral("x"));
         QCOMPARE(m_menu->userTabIndex(), 0);
@@ -142,29 +156,6 @@ private Q_SLOTS:
         QVERIFY(find(find(view, "feature58"), "removeButton")->hasActiveFocus());
     }
 
-    void takesFeaturesFromOurTablesOnly()
-    {
-        show();
-        m_menu->setUserTabIndex(1);
-        QQuickItem *area = find(m_menu, "dragAndDrop");
-        // An item of the scene can be dragged without a window system.
-        QQmlComponent component(m_window->engine());
-        component.setData("import QtQuick 2.15\n"
-                          "Item { Drag.active: x > 0; Drag.source: this\n"
-                          "function drop() { Drag.drop() } }",
-                          {});
-        for (const char *source : {"treeView", "tesseraTableView"}) {
-            const std::unique_ptr<QQuickItem> dragged(
-                qobject_cast<QQuickItem *>(component.create()));
-            dragged->setParentItem(m_menu);
-            dragged->setObjectName(QLatin1String(source));
-            dragged->setPosition(area->mapToItem(m_menu, area->boundingRect().center()));
-            QMetaObject::invokeMethod(dragged.get(), "drop");
-            const bool isOurs = qstrcmp(source, "tesseraTableView") == 0;
-            QCOMPARE(m_menu->featureNameList(1).size(), isOurs ? 1 : 0);
-        }
-    }
-
 private:
     void prepare() override
     {
@@ -174,15 +165,12 @@ private:
         m_menu->setParameterCollection(m_collection);
         // By name, as the signals are the scene's.
         const QMetaObject *type = m_menu->metaObject();
-        const std::map<const char *, const char *> connections {
-            {"nameChanged(int,QString)", "onNameChanged(int,QString)"},
-            {"addFeature(int,QString)", "onAddFeature(int,QString)"},
-            {"removeFeature(int,QString)", "onRemoveFeature(int,QString)"},
-            {"remove(int)", "onRemove(int)"},
-        };
-        for (const auto &[signal, slot] : connections) {
+        for (const char *signal : {"nameChanged(int,QString)", "addFeature(int,QString)",
+                                   "removeFeature(int,QString)", "remove(int)"}) {
+            QByteArray slot(signal);
+            slot.replace(0, 1, "on" + slot.left(1).toUpper());
             QVERIFY(QMetaObject::connect(m_menu, type->indexOfSignal(signal), m_menu,
-                                         type->indexOfSlot(slot)));
+                                         type->indexOfSlot(slot.constData())));
         }
     }
     void release() override
@@ -192,19 +180,13 @@ private:
     void show(const QStringList &features = {})
     {
         m_menu->selectFirstNamedTab();
-        setFeatures(features);
+        for (const QString &feature : features) {
+            m_menu->onAddFeature(0, feature);
+        }
         m_window->show();
         m_window->requestActivate();
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
         QTRY_VERIFY(row(3));
-    }
-
-    void setFeatures(const QStringList &features)
-    {
-        m_menu->setFeatureNameList(0, {});
-        for (const QString &feature : features) {
-            m_menu->onAddFeature(0, feature);
-        }
     }
 
     QQuickItem *row(int tab) const

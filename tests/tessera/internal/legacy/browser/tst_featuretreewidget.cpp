@@ -21,11 +21,10 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QSignalSpy>
-#include <QSplitter>
 
 #include <memory>
+#include <utility>
 
-using Core::Logging::ELogLevel;
 using ParameterCollection::IParameter;
 using ParameterCollection::ParameterName;
 using Tests::Fault;
@@ -35,7 +34,7 @@ namespace {
 
 const QString features = QStringLiteral("Image name=Image_Format\n"
                                         "  Width Integer 640 [16..1280] rep=PureNumber\n"
-                                        "  Gain Float 1.5 unit=dB expert\n"
+                                        "  Gain Float 1.5 [0..24] unit=dB expert\n"
                                         "  Empty\n"
                                         "  Inner guru\n"
                                         "    Hidden String x invisible\n"
@@ -47,16 +46,26 @@ const QString features = QStringLiteral("Image name=Image_Format\n"
                                         "  Far Integer 3\n"
                                         "  Near Boolean 0\n");
 
-// The features of a category below come first.
-const QString longName = QStringLiteral("AVeryLongNameThatDoesNotFitIntoTheColumn");
-const QString inner = QStringLiteral("Away Mute ") + longName + QLatin1Char(' ');
-
 ParameterName name(const char *shortName)
 {
     return ParameterName(QLatin1String("@CameraDevice/") + QLatin1String(shortName));
 }
 
 } // namespace
+
+/// Counts what is painted in the windows of the program.
+class PaintCounter final : public QObject
+{
+    Q_OBJECT
+
+public:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint && watched->isWidgetType() ? 1 : 0;
+        return false;
+    }
+    int count = 0;
+};
 
 class tst_FeatureTreeWidget : public FeatureTest
 {
@@ -65,9 +74,9 @@ class tst_FeatureTreeWidget : public FeatureTest
 private Q_SLOTS:
     void copiesAllFeaturesAsText()
     {
-        QCOMPARE(copied(), QString());
         add();
-        QCOMPARE(copied(),
+        m_browser->copyToClipboard();
+        QCOMPARE(QGuiApplication::clipboard()->text(),
                  QStringLiteral("Camera\n"
                                 "  Image Format                          \n"
                                 "    Width                               \t640\n"
@@ -83,26 +92,21 @@ private Q_SLOTS:
                                 "    Near                                \t0\n"));
     }
 
-    void copiesWhatTheDeviceTells_data()
+    void copiesWhatCanBeRead()
     {
-        Tests::addFaultRows();
-    }
-
-    void copiesWhatTheDeviceTells()
-    {
-        QFETCH(Tests::Fault, fault);
         add();
         for (const char *name : {"Width", "Gain", "Inner"}) {
-            expectFault(QStringLiteral("featuretreewidget \\d+ could not retrieve "
-                                       "\"@CameraDevice/%1\" from parameter collection")
-                            .arg(QLatin1String(name)));
+            expectFault("featureTreeWidget",
+                        QRegularExpression(
+                            QStringLiteral("could not retrieve \"%1\" from ").arg(pathOf(name))));
         }
-        m_collection->onParameter.insert(pathOf("Width"), fault);
-        node("Gain").onProperty = fault;
-        m_collection->onChildren.insert(pathOf("Inner"), fault);
+        m_collection->onParameter.insert(pathOf("Width"), Fault::Unknown);
+        node("Gain").onProperty = Fault::Unknown;
+        m_collection->onChildren.insert(pathOf("Inner"), Fault::Unknown);
         node("Empty").children.append(pathOf("Image")); // holds itself
         node("Other").isNull = true;
-        QCOMPARE(copied().simplified(),
+        m_browser->copyToClipboard();
+        QCOMPARE(QGuiApplication::clipboard()->text().simplified(),
                  QStringLiteral("Camera Image Format Empty Image Format Inner"));
     }
 
@@ -113,7 +117,9 @@ private Q_SLOTS:
         QCOMPARE(shown(), QString());
         QVERIFY(!m_browser->currentItem());
         select("Image Format");
-        QCOMPARE(shown(), inner + QLatin1String("Width Gain [dB] "));
+        QCOMPARE(shown(),
+                 QStringLiteral("Away Mute AVeryLongNameThatDoesNotFitIntoTheColumn "
+                                "Width Gain [dB] "));
         QCOMPARE(tableRow("Width", 1).data().toString(), QStringLiteral("640"));
         QVERIFY(node("Width").isSubscribed() && !node("Far").isSubscribed());
         select("Other");
@@ -123,6 +129,23 @@ private Q_SLOTS:
         QCOMPARE(shown(), QString());
     }
 
+    void paintsWhatChangesAndNothingElse()
+    {
+        add();
+        select("Image Format");
+        PaintCounter painted;
+        qApp->installEventFilter(&painted);
+        const auto publish = [&] {
+            node("Width").publish();
+            node("AVeryLongNameThatDoesNotFitIntoTheColumn").publish();
+            QCoreApplication::processEvents();
+            return std::exchange(painted.count, 0);
+        };
+        QTRY_COMPARE(publish(), 0); // as soon as the editors are laid out
+        node("Width").number = 80;
+        QVERIFY(publish() + publish() > 0);
+    }
+
     void tellsTheCurrentParameter()
     {
         add();
@@ -130,9 +153,7 @@ private Q_SLOTS:
             m_browser.get(),
             qOverload<QSharedPointer<IParameter>>(&FeatureTreeWidget::onCurrentChanged));
         select("Other");
-        QCOMPARE(m_browser->currentItem()->fullName(), pathOf("Other"));
         table()->setCurrentIndex(tableRow("Far"));
-        QCOMPARE(m_browser->currentItem()->fullName(), pathOf("Far"));
         QCOMPARE(current.takeLast().value(0).value<QSharedPointer<IParameter>>()->fullName(),
                  pathOf("Far"));
         current.clear();
@@ -149,12 +170,11 @@ private Q_SLOTS:
         QTest::keyClick(m_browser.get(), Qt::Key_F3);
         QVERIFY(search->hasFocus());
         QTest::keyClicks(search, QStringLiteral("idt"));
-        QVERIFY(tableRow("Width").data(IsSearchMatchRole).toBool());
-        QVERIFY(!tableRow("Gain [dB]").data(IsSearchMatchRole).toBool());
+        QCOMPARE(names(*table()->model(), IsSearchMatchRole), QStringLiteral("Width "));
         QVERIFY(treeRow("Image Format").data(IsSearchMatchRole).toBool());
         QVERIFY(!treeRow("Other").data(IsSearchMatchRole).toBool());
         search->clear();
-        QVERIFY(!tableRow("Width").data(IsSearchMatchRole).toBool());
+        QCOMPARE(names(*table()->model(), IsSearchMatchRole), QString());
     }
 
     void twoEscapesEmptyTheSearch()
@@ -180,24 +200,17 @@ private Q_SLOTS:
                                 {QStringLiteral("Near things"), QStringList {pathOf("Near")}}});
         auto *box = widget<QComboBox>("useCaseComboBox");
         auto *edit = widget<QLineEdit>("useCaseEdit");
-        QCOMPARE(box->count(), 3);
         QCOMPARE(box->currentText(), QStringLiteral("Common Tasks"));
-        QVERIFY(box->isVisible() && !edit->isVisible());
-
         box->setFocus();
         QTest::keyClicks(box, QStringLiteral("L"));
         QTRY_VERIFY(edit->isVisible() && !box->isVisible());
         QCOMPARE(edit->text(), QStringLiteral("Light"));
         QVERIFY(treeRow("Image Format").data(IsFavoriteMatchRole).toBool());
-        QVERIFY(!tableRow("Near").data(IsFavoriteMatchRole).toBool());
         select("Image Format");
-        QVERIFY(tableRow("Gain [dB]").data(IsFavoriteMatchRole).toBool());
-        QVERIFY(!tableRow("Width").data(IsFavoriteMatchRole).toBool());
-
+        QCOMPARE(names(*table()->model(), IsFavoriteMatchRole), QStringLiteral("Gain [dB] "));
         edit->actions().constLast()->trigger();
         QVERIFY(box->isVisible() && !edit->isVisible());
-        QCOMPARE(box->currentIndex(), 0);
-        QVERIFY(!tableRow("Gain [dB]").data(IsFavoriteMatchRole).toBool());
+        QCOMPARE(names(*table()->model(), IsFavoriteMatchRole), QString());
     }
 
     void pollsWhileTheBoxIsChecked()
@@ -259,14 +272,15 @@ private Q_SLOTS:
     {
         m_browser->setUserTabMode(true);
         QVERIFY(!widget<QWidget>("filterEdit")->isVisible() && !tree()->isVisible());
-        m_browser->setDeviceParameterService(usePool());
+        const auto pool = QSharedPointer<Host::ParameterPool>::create();
+        pool->insert(m_info, m_collection);
+        m_browser->setDeviceParameterService(pool);
         m_browser->setFeatureNameList({name("Lost"), name("Far"), name("Gone"), name("Width")});
         add();
         QCOMPARE(shown(), QStringLiteral("Far Width "));
         QSignalSpy moved(m_browser.get(), &FeatureTreeWidget::orderOfTableItemsChanged);
         auto *up = m_browser->findChild<QAction *>(QStringLiteral("actionMoveFavouriteUp"));
         auto *down = m_browser->findChild<QAction *>(QStringLiteral("actionMoveFavouriteDown"));
-        QVERIFY(!up->isEnabled() && !down->isEnabled());
         table()->setCurrentIndex(tableRow("Width"));
         QVERIFY(up->isEnabled() && !down->isEnabled());
         table()->setFocus();
@@ -275,35 +289,10 @@ private Q_SLOTS:
         QVERIFY(!up->isEnabled() && down->isEnabled());
         QCOMPARE(moved.count(), 1);
         down->trigger();
-        QCOMPARE(shown(), QStringLiteral("Far Width "));
         widget<QCheckBox>("checkBoxUnavailableFavs")->click();
-        QVERIFY(shown().contains(QLatin1String("Lost")));
+        QVERIFY(shown().startsWith(QLatin1String("Lost ")));
         m_browser->setFeatureNameList({name("Far"), name("Width"), name("Far")});
         QCOMPARE(shown(), QStringLiteral("Far Width Far "));
-        m_browser->setFeatureNameList({});
-        QCOMPARE(shown(), QString());
-    }
-
-    void listsWhatATreeHoldsWithoutAService()
-    {
-        m_browser->setUserTabMode(true);
-        add();
-        for (int entry = 0; entry < 2; ++entry) {
-            expectFault(QStringLiteral("Plugin::CameraPool::IDeviceParameterService not set!"));
-        }
-        m_browser->setFeatureNameList({name("Far"), name("Gone")});
-        QCOMPARE(shown(), QStringLiteral("Far "));
-    }
-
-    void keepsColumnWidthsForTheFirstShow()
-    {
-        FeatureTreeWidget browser(QString(), m_info, nullptr);
-        browser.setUserTabMode(false);
-        browser.setCategoryColumnWidth(123);
-        browser.setFirstSectionSize(77);
-        browser.show();
-        QTRY_COMPARE(browser.findChild<QSplitter *>()->sizes().constFirst(), 123);
-        QCOMPARE(browser.tableView()->columnWidth(0), 77);
     }
 
     void dropsOpenEditorsWhenCleared()
@@ -377,23 +366,6 @@ private:
             }
         }
         return text;
-    }
-    QString copied() const
-    {
-        m_browser->copyToClipboard();
-        return QGuiApplication::clipboard()->text();
-    }
-    void expectFault(const QString &text)
-    {
-        m_guard.expectLogEntry(ELogLevel::Fault,
-                               QStringLiteral("vantrel.viewer.plugins.tessera.featureTreeWidget"),
-                               QRegularExpression(QRegularExpression::anchoredPattern(text)));
-    }
-    QSharedPointer<Host::ParameterPool> usePool() const
-    {
-        const auto pool = QSharedPointer<Host::ParameterPool>::create();
-        pool->insert(m_info, m_collection);
-        return pool;
     }
     void add() const
     {

@@ -9,8 +9,6 @@
 #include "internal/legacy/editors/parameteranddata.h"
 #include "tessera/featuretest.h"
 
-#include <cmath>
-
 /// Snapshots that are readable and writable; change what the test is about.
 template<typename Data> QSharedPointer<Data> liveSnapshot()
 {
@@ -49,22 +47,6 @@ inline auto floatSnapshot(double value, double minimum, double maximum, double i
     return data;
 }
 
-/// Rows of what a float's editor cannot show: columns "snapshot" and "entry", what it logs.
-inline void addUnusableSnapshots(const char *foreign, const char *unreadable)
-{
-    using Snapshot = QSharedPointer<const ParameterCollection::ParameterData>;
-    QTest::addColumn<Snapshot>("snapshot");
-    QTest::addColumn<QString>("entry");
-    const auto locked = floatSnapshot(1, 0, 10);
-    locked->isReadable = false;
-    QTest::newRow("null") << Snapshot() << foreign;
-    QTest::newRow("integer") << Snapshot(integerSnapshot(1, 0, 2)) << foreign;
-    QTest::newRow("unreadable") << Snapshot(locked) << unreadable;
-    QTest::newRow("contradicting limits") << Snapshot(floatSnapshot(5, 10, 0)) << "";
-    QTest::newRow("outside its limits") << Snapshot(floatSnapshot(11, 0, 10)) << "";
-    QTest::newRow("not a number") << Snapshot(floatSnapshot(std::nan(""), 0, 10)) << "";
-}
-
 /// A test of editors over a camera with one parameter of each kind.
 class EditorTest : public FeatureTest
 {
@@ -75,9 +57,9 @@ protected:
     {
         attach(QStringLiteral("Int Integer 5 [0..100]\n"
                               "Slider Integer 5 [0..100] rep=Linear\n"
-                              "Float Float 5 [0..100]\n"
-                              "ExposureTime Float 5 [0..100] rep=Logarithmic\n"
-                              "Gain Float 5 [0..100] rep=Linear\n"
+                              "Float Float 5 [0..1000]\n"
+                              "ExposureTime Float 200 [100..1000000] rep=Logarithmic\n"
+                              "Gain Float 5 [0..100] rep=Logarithmic\n"
                               "Alone Float 5 [0..100] rep=Linear\n"
                               "Switch Boolean 1\n"
                               "Choice Enum Off entries=Off,On\n"

@@ -111,17 +111,6 @@ private Q_SLOTS:
         QTEST(onCamera(name).toDouble(), "maximum");
     }
 
-    void lockWhileTypingDisablesTheEditor()
-    {
-        auto *box = m_table->part<QAbstractSpinBox>(m_logarithmic);
-        box->setFocus();
-        box->selectAll();
-        QTest::keyClicks(box, QStringLiteral("300"));
-        m_camera->changeOnDevice(pathOf(m_choice), QStringLiteral("Continuous"));
-        QTRY_VERIFY(!m_table->editor(m_logarithmic)->isEnabled());
-        QCOMPARE(m_camera->counters().total().writes, 0);
-    }
-
     void wheelNeedsTheFocus()
     {
         for (const QString &name : {m_choice, m_integer, m_step, m_linear, m_logarithmic}) {

@@ -9,19 +9,23 @@
 
 #include "internal/legacy/editors/checkboxeditor.h"
 #include "internal/legacy/editors/enumeditor.h"
+#include "internal/legacy/editors/inteditor.h"
+#include "internal/legacy/editors/intslidereditor.h"
 #include "internal/legacy/editors/toolbuttoneditor.h"
+#include "internal/legacy/editors/vantrelqtspinbox.h"
 
 #include <QAbstractItemView>
+#include <QSignalSpy>
+#include <QSlider>
 
+#include <limits>
 #include <memory>
 
 using namespace ParameterCollection;
-using Core::Logging::ELogLevel;
 
 namespace {
 
-const QString enumLog = QStringLiteral("vantrel.viewer.plugins.tessera.enumEditor");
-const QString buttonLog = QStringLiteral("vantrel.viewer.plugins.tessera.toolButtonEditor");
+constexpr qint64 widest = std::numeric_limits<qint64>::max();
 
 auto enumSnapshot(const char *value)
 {
@@ -74,14 +78,13 @@ private Q_SLOTS:
         QCOMPARE(editor.currentText(), QStringLiteral("on")); // without a display name
         QCOMPARE(editor.editorValue(), QVariant(QStringLiteral("on")));
 
-        m_guard.expectLogEntry(ELogLevel::Fault, enumLog,
-                               QStringLiteral(": Choice. No entry in the combo box matches the "
-                                              "current value Never"));
+        expectFault("enumEditor",
+                    QStringLiteral(": Choice. No entry in the combo box matches the "
+                                   "current value Never"));
         editor.updateEditor(pair("Choice", enumSnapshot("Never")));
         QCOMPARE(editor.count(), 3);
         QVERIFY(!editor.editorValue().isValid());
-        m_guard.expectLogEntry(ELogLevel::Fault, enumLog,
-                               QStringLiteral("Choice is called with non-enumeration node????"));
+        expectFault("enumEditor", QStringLiteral("Choice is called with non-enumeration node????"));
         editor.updateEditor(pair("Choice", {}));
         QCOMPARE(editor.count(), 0);
     }
@@ -123,13 +126,124 @@ private Q_SLOTS:
 
         editor.updateEditor(pair("Go", commandSnapshot(false)));
         QVERIFY(editor.isChecked());
-        m_guard.expectLogEntry(ELogLevel::Fault, buttonLog,
-                               QStringLiteral(" is called with non-command node????"));
+        expectFault("toolButtonEditor", QStringLiteral(" is called with non-command node????"));
         editor.updateEditor(pair("Int", commandSnapshot(true)));
         QVERIFY(editor.isChecked());
         editor.click();
         node("Go").onRefresh = Tests::Fault::Unknown;
         QVERIFY(!editor.editorValue().isValid());
+    }
+
+    void fieldShowsTextAndRange()
+    {
+        IntEditor editor(nullptr);
+        const auto show = [&](qint64 minimum, qint64 maximum, const char *representation) {
+            const auto data = integerSnapshot(7, minimum, maximum, 1, representation);
+            data->valueText = QStringLiteral("as the device %1 writes it");
+            editor.updateEditor(pair("Int", data));
+            return editor.toolTip();
+        };
+        QCOMPARE(show(-3, widest, "PureNumber"), QStringLiteral("Range: -3..2147483647"));
+        QCOMPARE(show(-widest, 255, "HexNumber"), QStringLiteral("Range: 0x-80000000..0xff"));
+        QCOMPARE(editor.editorValue(), QVariant(QStringLiteral("as the device %1 writes it")));
+        expectFault("intEditor", QStringLiteral(" is called with non-integer node????"));
+        editor.updateEditor(pair("Int", {}));
+        QCOMPARE(editor.text(), QStringLiteral("as the device %1 writes it"));
+        QVERIFY(show(0, 1, "IPV4Address").isEmpty());
+        const auto unreadable = integerSnapshot(1, 0, 2);
+        unreadable->isReadable = false;
+        editor.updateEditor(pair("Int", unreadable));
+        QCOMPARE(editor.text(), QStringLiteral("<not readable>"));
+    }
+
+    void putsWhatIsTypedOnTheGrid()
+    {
+        ComboSlider slider;
+        slider.setRangeAndStep(0, 100, 7);
+        slider.setValue(40);
+        QSignalSpy changes(&slider, &ComboSlider::valueChanged);
+        auto *box = slider.findChild<QSpinBox *>();
+        box->selectAll();
+        QTest::keyClicks(box, QStringLiteral("50"));
+        QTest::keyClick(box, Qt::Key_Return);
+        QCOMPARE(box->text(), QStringLiteral("49"));
+        QCOMPARE(slider.value(), 49);
+        QTest::keyClick(box, Qt::Key_Enter);
+        QCOMPARE(QList<QVariantList>(changes), (QList<QVariantList> {{49}}));
+    }
+
+    void sliderShowsSnapshotsWithoutWriting()
+    {
+        IntSliderEditor editor(nullptr);
+        QSignalSpy changes(&editor, &ComboSlider::valueChanged);
+        editor.updateEditor(pair("Int", integerSnapshot(300, 0, 1000)));
+        QCOMPARE(editor.editorValue(), QVariant(300));
+        editor.updateEditor(pair("Int", integerSnapshot(widest, -widest, widest, 3)));
+        QCOMPARE(editor.minimum(), std::numeric_limits<int>::min());
+        QCOMPARE(editor.value(), std::numeric_limits<int>::max());
+        const auto locked = integerSnapshot(5, 0, 10);
+        locked->isWritable = false;
+        editor.updateEditor(pair("Int", locked));
+        QVERIFY(!editor.isEnabled());
+        locked->isReadable = false;
+        expectFault("intSliderEditor", QStringLiteral("Non-readable slider: Int??????"));
+        editor.updateEditor(pair("Int", locked));
+        expectFault("intSliderEditor",
+                    QStringLiteral("Feature Int: value 120 out of range??? min = 0, max = 100"));
+        editor.updateEditor(pair("Int", integerSnapshot(120, 0, 100, 7)));
+        QCOMPARE(editor.value(), 98);
+        QCOMPARE(changes.count(), 0);
+    }
+
+    void keysTakeEffectAtOnceAndProgramsAreSilent()
+    {
+        ComboSlider slider;
+        slider.setRangeAndStep(0, 1000, 1);
+        slider.setPageStep(25);
+        slider.setValue(100);
+        QSignalSpy changes(&slider, &ComboSlider::valueChanged);
+        auto *box = slider.findChild<QSpinBox *>();
+        QTest::keyClick(box, Qt::Key_Up);
+        QTest::keyClick(box, Qt::Key_PageDown);
+        QTest::keyClick(box, Qt::Key_PageUp);
+        QTest::keyClick(box, Qt::Key_Down);
+        const QList<QVariantList> expected {{101}, {76}, {101}, {100}};
+        QCOMPARE(QList<QVariantList>(changes), expected);
+
+        slider.setRange(0, 900); // a program is silent
+        slider.setValue(45);
+        box->selectAll();
+        QTest::keyClicks(box, QStringLiteral("7"));
+        QTest::keyClick(box, Qt::Key_Escape);
+        QCOMPARE(box->text(), QStringLiteral("45"));
+        QCOMPARE(QList<QVariantList>(changes), expected);
+
+        // At the limit no step follows a page key; the next arrow key is an arrow key.
+        slider.setValue(900);
+        QTest::keyClick(box, Qt::Key_PageUp);
+        QTest::keyClick(box, Qt::Key_Down);
+        QCOMPARE(slider.value(), 899);
+    }
+
+    void sliderIgnoresAnswersToEarlierMoves()
+    {
+        IntSliderEditor editor(nullptr);
+        editor.updateEditor(pair("Int", integerSnapshot(0, 0, 100)));
+        Tests::FakeNode &device = node("Int");
+        for (const int position : {20, 40, 60}) {
+            editor.findChild<QSlider *>()->setValue(position);
+            device.number = position;
+        }
+        for (const int answer : {20, 40, 60}) {
+            editor.updateEditor(pair("Int", integerSnapshot(answer, 0, 100)));
+            QCOMPARE(editor.value(), 60);
+        }
+        device.number = 30; // on its own
+        editor.updateEditor(pair("Int", integerSnapshot(30, 0, 100)));
+        QCOMPARE(editor.value(), 30);
+        editor.findChild<QSlider *>()->setValue(80); // and the device keeps 30
+        editor.updateEditor(pair("Int", integerSnapshot(30, 0, 100)));
+        QCOMPARE(editor.value(), 30);
     }
 };
 

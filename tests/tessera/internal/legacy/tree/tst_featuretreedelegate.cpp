@@ -8,20 +8,15 @@
 
 #include "internal/legacy/tree/featuretreeinodeitem.h"
 #include "internal/legacy/tree/featuretreemodel.h"
-#include "plugin/contract/viewer/stylehelper.h"
 #include "support/treetext.h"
 #include "tessera/featuretest.h"
 
-#include <QApplication>
 #include <QLineEdit>
 #include <QPointer>
-#include <QScreen>
 #include <QTreeView>
 
 #include <memory>
 
-using Core::Logging::ELogLevel;
-using Tests::Fault;
 using Tests::findRow;
 
 class tst_FeatureTreeDelegate : public FeatureTest
@@ -33,20 +28,19 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("lines");
         QTest::addColumn<QByteArray>("editor");
-        const auto row = [](const char *name, const char *lines, const char *editor) {
-            QTest::newRow(name) << QString::fromLatin1(lines) << QByteArray(editor);
-        };
-        row("integer", "F Integer 1", "IntEditor");
-        row("linear integer", "F Integer 1 rep=Linear", "IntSliderEditor");
-        row("float", "F Float 1", "FloatEditor");
-        row("linear float without a companion", "F Float 1 rep=Linear", "FloatEditor");
-        row("linear float", "F Float 1 rep=Linear\nF/Alias Integer 1", "FloatSliderEditor");
-        row("float with a companion", "F Float 1 rep=PureNumber\nF/Alias Integer 1", "FloatEditor");
-        row("enumeration", "F Enum A entries=A,B", "EnumEditor");
-        row("switch", "F Boolean 1", "CheckBoxEditor");
-        row("command", "F Command", "ToolButtonEditor");
-        row("text", "F String a", "QExpandingLineEdit");
-        row("not available", "F Boolean 1 na", "");
+        QTest::newRow("integer") << "F Integer 1" << QByteArray("IntEditor");
+        QTest::newRow("linear integer")
+            << "F Integer 1 rep=Linear" << QByteArray("IntSliderEditor");
+        QTest::newRow("float") << "F Float 1" << QByteArray("FloatEditor");
+        QTest::newRow("linear float without a companion")
+            << "F Float 1 rep=Linear" << QByteArray("FloatEditor");
+        QTest::newRow("linear float")
+            << "F Float 1 rep=Linear\nF/Alias Integer 1" << QByteArray("FloatSliderEditor");
+        QTest::newRow("enumeration") << "F Enum A entries=A,B" << QByteArray("EnumEditor");
+        QTest::newRow("switch") << "F Boolean 1" << QByteArray("CheckBoxEditor");
+        QTest::newRow("command") << "F Command" << QByteArray("ToolButtonEditor");
+        QTest::newRow("text") << "F String a" << QByteArray("QExpandingLineEdit");
+        QTest::newRow("not available") << "F Boolean 1 na" << QByteArray("");
     }
 
     void choosesTheEditor()
@@ -59,16 +53,6 @@ private Q_SLOTS:
         QCOMPARE(QByteArray(made ? made->metaObject()->className() : ""), editor);
         QVERIFY(
             !m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), QModelIndex()));
-    }
-
-    void logsWhatThePropertiesThrow()
-    {
-        add(QStringLiteral("F Integer 1"));
-        node().onProperty = Fault::Unknown;
-        m_guard.expectLogEntry(ELogLevel::Fault,
-                               QStringLiteral("vantrel.viewer.plugins.tessera.nodeItem"),
-                               QRegularExpression(QStringLiteral("^Failed to create an editor ")));
-        QVERIFY(!m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), index()));
     }
 
     void writesNoTextThatStandsForAValue()
@@ -129,22 +113,6 @@ private Q_SLOTS:
         QCOMPARE(editor->accessibleName(), QStringLiteral("F"));
         QVERIFY(editor->accessibleDescription().endsWith(QLatin1String("Says something")));
         QVERIFY(!editor->accessibleDescription().contains(QLatin1Char('<')));
-    }
-
-    // At 96 dpi the model's height, above it the font's; this program runs with both.
-    void givesRowsTheHeightOfTheFont()
-    {
-        add(QStringLiteral("F Integer 1"));
-        QStyleOptionViewItem option;
-        const QModelIndex name = index().siblingAtColumn(0);
-        int height = name.data(Qt::SizeHintRole).toSize().height();
-        if (QApplication::primaryScreen()->logicalDotsPerInch() > 96.0) {
-            QFont font = option.font;
-            font.setFamily(QStringLiteral("Segoe UI"));
-            font.setPixelSize(CStyleHelper::computePixelFontSize(12));
-            height = QFontMetrics(font).height() + 4;
-        }
-        QCOMPARE(m_delegate->sizeHint(option, name).height(), height);
     }
 
 private:

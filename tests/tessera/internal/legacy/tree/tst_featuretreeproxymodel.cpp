@@ -1,21 +1,15 @@
 // SPDX-FileCopyrightText: 2026 Tessera contributors
 // SPDX-License-Identifier: MIT
 
-// Connections end with the test function.
-// clazy:excludeall=lambda-in-connect
-
 #include "internal/legacy/tree/featuretreeproxymodel.h"
 
-#include "internal/legacy/tree/featuretreeitem.h"
 #include "internal/legacy/tree/featuretreemodel.h"
-#include "plugin/constants/itemroles.h"
 #include "support/modeltester.h"
 #include "support/treetext.h"
 #include "tessera/featuretest.h"
 
 #include <memory>
 
-using Tests::findRow;
 using Tests::treeText;
 
 namespace {
@@ -80,69 +74,6 @@ private Q_SLOTS:
         QCOMPARE(treeText(*m_proxy).remove(QStringLiteral(": <not implemented>")), expected);
     }
 
-    void filtersAgainOnlyWhenTold()
-    {
-        add(camera);
-        m_proxy->invalidate();
-        const QString before = treeText(*m_proxy);
-        m_proxy->setVisibility(0);
-        QCOMPARE(m_source->visibility(), 0);
-        QCOMPARE(treeText(*m_proxy), before);
-        m_proxy->invalidate();
-        QVERIFY(treeText(*m_proxy) != before);
-    }
-
-    void letsEverythingPassWhileACollectionIsAdded()
-    {
-        m_proxy->setFeatureNameFilter({pathOf("Nothing")});
-        QVector<int> rows;
-        connect(m_proxy.get(), &QAbstractItemModel::layoutChanged, this,
-                [&] { rows.append(m_proxy->rowCount()); });
-        add(camera);
-        QCOMPARE(rows, QVector<int> {1});
-    }
-
-    void countsWhatItVisited()
-    {
-        add("Image\n  Width Integer 1\nSecret expert\n  Key Integer 1 guru");
-        m_proxy->setVisibility(0);
-        m_proxy->invalidate();
-        treeText(*m_proxy);
-        QCOMPARE(m_proxy->matchCount(), 2); // the top row and Image
-        QCOMPARE(m_proxy->hiddenMatchCount(), 2); // Secret and Key
-        m_proxy->setVisibility(3);
-        m_proxy->invalidate();
-        treeText(*m_proxy);
-        QCOMPARE(m_proxy->hiddenMatchCount(), 0);
-    }
-
-    void marksInOneChangeOfLayout()
-    {
-        add(camera);
-        int layouts = 0;
-        connect(m_proxy.get(), &QAbstractItemModel::layoutChanged, this, [&] { ++layouts; });
-        m_proxy->markSearchMatches(QStringLiteral(" width "));
-        m_proxy->markFavorites({QStringLiteral("@cameradevice/exposure")});
-        QCOMPARE(layouts, 2);
-        QVERIFY(findRow(*m_proxy, QStringLiteral("Image")).data(IsSearchMatchRole).toBool());
-        QVERIFY(findRow(*m_proxy, QStringLiteral("Timing")).data(IsFavoriteMatchRole).toBool());
-    }
-
-    void mapsIndexesOfItsSource()
-    {
-        add("First expert\n  A Integer 1 guru\nSecond\n  B Integer 1");
-        m_proxy->setVisibility(0);
-        m_proxy->invalidate();
-        const QModelIndex second = findRow(*m_proxy, QStringLiteral("Second"), 1);
-        QCOMPARE(second.row(), 0);
-        QVERIFY(m_proxy->isUtf8());
-        FeatureTreeItem *item = m_proxy->itemFromIndex(second);
-        QCOMPARE(m_proxy->createItemIndex(item, 1), second);
-        QCOMPARE(m_proxy->indexOfItem(item, nullptr, 1), second);
-        QCOMPARE(m_proxy->indexOfName(pathOf("Second"), nullptr, 1), second);
-        QVERIFY(!m_proxy->indexOfName(pathOf("First"), nullptr, 0).isValid());
-    }
-
     void pollsWhatTheNameFilterShows()
     {
         add("Image\n  Width Integer 1\n  Height Integer 1");
@@ -171,7 +102,6 @@ private Q_SLOTS:
         m_proxy->setFeatureNameFilter({pathOf("Rate")});
         QVERIFY(!treeText(tester).contains(QLatin1String("Image")));
         m_proxy->setFeatureNameFilter({});
-        m_proxy->markSearchMatches(QStringLiteral("pixel"));
         m_source->setShowTreeView(false);
         QVERIFY(treeText(tester).contains(QLatin1String("Image")));
         m_proxy->clear();

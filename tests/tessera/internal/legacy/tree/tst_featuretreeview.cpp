@@ -34,8 +34,6 @@ private Q_SLOTS:
         QVERIFY(!current.constFirst().constFirst().toModelIndex().isValid());
         QVERIFY(m_view->isRowHidden(1, value("Tiles").parent()));
         QVERIFY(!m_view->isRowHidden(0, value("Tiles").parent()));
-        receive("Tiles");
-        QCOMPARE(current.size(), 1);
         m_view->setVisibility(GenApi::Guru);
         receive("Tiles");
         QVERIFY(!m_view->isRowHidden(1, value("Tiles").parent()));
@@ -110,22 +108,6 @@ private Q_SLOTS:
         const QImage filtered = picture();
         m_view->setModel(nullptr);
         QVERIFY(empty != picture() && filtered != picture());
-    }
-
-    void showsNewModelsInPlaceOfTheOld()
-    {
-        add("Image\n  Width Integer 1");
-        const QPointer<QAbstractItemModel> old = m_view->model();
-        const QPointer<FeatureTreeDelegate> oldDelegate = m_view->delegate();
-        m_view->recreateModels();
-        QVERIFY(old && old != m_view->model());
-        QCOMPARE(m_view->model()->rowCount(), 0);
-        QCOMPARE(m_view->itemDelegate(), m_view->delegate());
-        QVERIFY(oldDelegate != m_view->delegate());
-        proxy().addParameterCollection(m_collection, QStringLiteral("Camera"), m_path, true);
-        *m_view->searchTextPointer() = QStringLiteral("imag");
-        const QString toolTip = value("Image").siblingAtColumn(0).data(Qt::ToolTipRole).toString();
-        QVERIFY(toolTip.contains(QLatin1String("#ffa700")));
     }
 
 private:
