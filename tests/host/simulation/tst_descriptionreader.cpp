@@ -113,7 +113,7 @@ private Q_SLOTS:
             QFAIL("nothing was thrown");
         } catch (const Core::Exception::BaseException &exception) {
             const QString failure = QString::fromUtf8(exception.what());
-            QVERIFY2(failure.startsWith(fileName) && failure.contains(why), exception.what());
+            QVERIFY2(failure.startsWith(m_folder.path()) && failure.contains(why), exception.what());
             QVERIFY(!failure.contains(QLatin1Char('\n')));
         }
     }
