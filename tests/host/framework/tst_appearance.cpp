@@ -5,16 +5,14 @@
 #include "host/framework/quick.h"
 #include "plugin/contract/core/languagehelper.h"
 #include "plugin/contract/viewer/stylehelper.h"
+#include "support/settingsfolder.h"
 
-#include <QDomDocument>
 #include <QFile>
 #include <QImage>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWindow>
-#include <QSettings>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
@@ -27,16 +25,9 @@ class TestAppearance : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        qunsetenv("QT_QUICK_BACKEND");
-        QCoreApplication::setOrganizationName(QStringLiteral("TesseraTests"));
-        QSettings::setDefaultFormat(QSettings::IniFormat);
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_folder.path());
-    }
-
     void drawsWithoutOpenGl()
     {
+        qunsetenv("QT_QUICK_BACKEND");
         Host::prepareQuick();
         QQuickWindow window;
         const QSignalSpy frames(&window, &QQuickWindow::frameSwapped);
@@ -69,10 +60,7 @@ private Q_SLOTS:
             QCOMPARE(QImage(stem + QLatin1String(".png")).size(), QSize(16, 16));
             QCOMPARE(QImage(stem + QLatin1String("@2x.png")).size(), QSize(32, 32));
         }
-        QFile file(folder + QStringLiteral("Default_Filter.xml"));
-        QDomDocument document;
-        QVERIFY(file.open(QIODevice::ReadOnly) && document.setContent(&file));
-        QVERIFY(document.documentElement().firstChildElement().isNull());
+        QVERIFY(QFile::exists(folder + QStringLiteral("Default_Filter.xml")));
     }
 
     void speaksTheSystemsLanguageOrEnglish_data()
@@ -111,7 +99,7 @@ private Q_SLOTS:
     }
 
 private:
-    QTemporaryDir m_folder;
+    Tests::SettingsFolder m_settings;
 };
 
 QTEST_MAIN(TestAppearance)

@@ -184,34 +184,25 @@ private Q_SLOTS:
         QTEST(windowMenu(), "menu");
     }
 
-    void stateChangesBeforeThePaneHearsOfIt_data()
-    {
-        QTest::addColumn<int>("way");
-        QTest::newRow("service") << 0;
-        QTest::newRow("button of the dock") << 1;
-        QTest::newRow("list of docks of the window") << 2;
-        QTest::newRow("entry of the Window menu") << 3;
-    }
-
     void stateChangesBeforeThePaneHearsOfIt()
     {
-        QFETCH(int, way);
         addDock(m_all, true);
         showWindow();
-        for (const bool open : {false, true}) {
-            if (way > 1) {
-                (way == 2 ? dock(m_all)->toggleViewAction() : m_menu->actions().at(0))->trigger();
-            } else if (way == 1 && !open) {
-                dock(m_all)
-                    ->findChild<QAbstractButton *>(QStringLiteral("qt_dockwidget_closebutton"))
-                    ->click();
-            } else {
-                m_docks->setDockWidgetVisible(m_all, open);
-            }
+        const auto expectState = [this](bool open) {
             QCOMPARE(m_notes.takeLast(),
                      QLatin1String(open ? "All shown open" : "All hidden closed"));
             QCOMPARE(windowMenu(), QLatin1String(open ? "All on" : "All"));
-        }
+        };
+        dock(m_all)
+            ->findChild<QAbstractButton *>(QStringLiteral("qt_dockwidget_closebutton"))
+            ->click();
+        expectState(false);
+        m_menu->actions().at(0)->trigger();
+        expectState(true);
+        dock(m_all)->toggleViewAction()->trigger();
+        expectState(false);
+        m_docks->setDockWidgetVisible(m_all, true);
+        expectState(true);
     }
 
     // Behind another dock, floating, in a restored layout and when the window closes.
