@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Tessera contributors
 // SPDX-License-Identifier: MIT
 
-#include "host/framework/camerarecord.h"
 #include "host/framework/findservice.h"
 #include "host/framework/log.h"
 #include "host/framework/parameterpool.h"
@@ -9,7 +8,6 @@
 #include "host/framework/pluginerror.h"
 #include "host/framework/pluginloader.h"
 #include "host/framework/serviceregistry.h"
-#include "support/fakecollection.h"
 #include "support/warningguard.h"
 
 #include <QLibrary>
@@ -19,11 +17,8 @@
 
 #include <memory>
 
-using Core::AppCoreComponents::BaseInfoPtr;
 using Core::Service::IService;
-using ParameterCollection::IParameterCollection;
 using Plugin::ParameterCollectionPool::IParameterService;
-using namespace Core::CameraPoolComponents;
 
 namespace {
 
@@ -194,22 +189,6 @@ private Q_SLOTS:
         }
         m_registry->clear();
         QCOMPARE(order, QVector<int>({2, 1}));
-    }
-
-    void poolGivesTheCollectionOfACameraRecord()
-    {
-        Host::ParameterPool pool;
-        const BaseInfoPtr camera(new Host::CameraRecord(
-            QStringLiteral("Left"), QStringLiteral("S-1"), QStringLiteral("GEV")));
-        const QSharedPointer<IParameterCollection> collection(new Tests::FakeCollection);
-        pool.insert(camera, collection);
-        QCOMPARE(pool.parameterCollection(camera).data(), collection.data());
-        QVERIFY(!pool.parameterCollection({}));
-        pool.remove(camera);
-        QVERIFY(!pool.parameterCollection(camera));
-        QCOMPARE(camera->sourceCategory(), QStringLiteral("Device"));
-        QCOMPARE(camera.objectCast<IDeviceBaseInfo>()->displayName(), QStringLiteral("Left"));
-        QCOMPARE(camera.objectCast<ICameraInfo>()->deviceClass(), QStringLiteral("GEV"));
     }
 
 private:

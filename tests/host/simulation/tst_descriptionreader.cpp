@@ -67,13 +67,10 @@ private Q_SLOTS:
         row("lock", R"("lockedWhile": [{"feature": "X", "is": [1]}])", "no feature \"X\"");
         row("value of a lock", R"("lockedWhile": [{"feature": "E", "is": ["Q"]}])",
             "\"Q\" is no value of \"E\"");
-        row("limit", R"("limits": {"maximum": {"of": "X"}})", "no feature \"X\"");
         row("selector", R"("selectedBy": "X")", "no feature \"X\"");
         row("selection", R"("selectedBy": "E", "selected": {"Q": 1})",
             "\"Q\" is no value of \"E\"");
         row("behaviour", R"("behaviour": {"kind": "dance"})", "kind \"dance\"");
-        row("effect", R"("effect": {"kind": "set", "feature": "X", "value": 1})",
-            "no feature \"X\"");
         row("value of an effect", R"("effect": {"kind": "set", "feature": "E", "value": "Q"})",
             "no entry is named \"Q\"");
     }
@@ -113,7 +110,8 @@ private Q_SLOTS:
             QFAIL("nothing was thrown");
         } catch (const Core::Exception::BaseException &exception) {
             const QString failure = QString::fromUtf8(exception.what());
-            QVERIFY2(failure.startsWith(m_folder.path()) && failure.contains(why), exception.what());
+            QVERIFY2(failure.startsWith(m_folder.path()) && failure.contains(why),
+                     exception.what());
             QVERIFY(!failure.contains(QLatin1Char('\n')));
         }
     }

@@ -34,7 +34,7 @@ private Q_SLOTS:
         QVERIFY(!parameter("Depth"));
     }
 
-    void givesKindAndText_data()
+    void givesKindAndTextAndTakesItBack_data()
     {
         QTest::addColumn<int>("type");
         QTest::addColumn<QString>("text");
@@ -47,6 +47,7 @@ private Q_SLOTS:
         QTest::newRow("HighBitDepth") << 2 << "0";
         QTest::newRow("ExposureTime") << 3 << "5000.4";
         QTest::newRow("Gain") << 3 << "0.500";
+        QTest::newRow("Gamma") << 3 << "1.00";
         QTest::newRow("Stop") << 4 << "0";
         QTest::newRow("UserName") << 5 << QStringLiteral("gr\u00fcn");
         QTest::newRow("OldName") << 5 << QStringLiteral("gr\u00fcn");
@@ -55,12 +56,17 @@ private Q_SLOTS:
         QTest::newRow("ImageFormatControl") << 7 << "";
     }
 
-    void givesKindAndText()
+    void givesKindAndTextAndTakesItBack()
     {
         const QByteArray name = QTest::currentDataTag();
         QTEST(int(parameter(name)->type()), "type");
         QTEST(data(name)->type, "type");
         QTEST(data(name)->valueText, "text");
+        if (data(name)->isWritable && data(name)->isReadable && data(name)->type != String) {
+            const QVariant before = memory(name);
+            write(name, data(name)->valueText);
+            QCOMPARE(memory(name), before);
+        }
     }
 
     void listsChildrenInTheirOrderWithoutCompanions()

@@ -51,23 +51,6 @@ private Q_SLOTS:
         QCOMPARE(m_collection->counters().of(cameraPath(name)).writes, 1);
     }
 
-    void takesItsOwnText_data()
-    {
-        QTest::addColumn<QByteArray>("name");
-        for (const char *name :
-             {"Width", "Register", "Address", "Mac", "Flag", "HighBitDepth", "Gain", "ExposureTime",
-              "Gamma", "PixelFormat", "Gain/Alias", "Stop"})
-            QTest::newRow(name) << QByteArray(name);
-    }
-
-    void takesItsOwnText()
-    {
-        QFETCH(const QByteArray, name);
-        const QVariant before = memory(name);
-        write(name, data(name)->valueText);
-        QCOMPARE(memory(name), before);
-    }
-
     void pullsNumbersInUnlessVerified()
     {
         const auto width = parameter<IIntegerParameter>("Width");
