@@ -141,13 +141,9 @@ QSharedPointer<IParameter> FakeCollection::makeParameter(const QSharedPointer<Fa
         return make<IEnumParameter>(node, m_delayed);
     case Command:
         return make<ICommandParameter>(node, m_delayed);
-    case None:
-    case String:
-    case Category:
-    case Other:
-        break;
+    default:
+        return make<IParameter>(node, m_delayed);
     }
-    return make<IParameter>(node, m_delayed);
 }
 
 FakeNode &FakeCollection::node(const QString &fullName)

@@ -59,36 +59,21 @@ QSharedPointer<ParameterData> blank(const FakeNode &node)
         data->entryDisplayNames = data->entryNames;
         return data;
     }
-    case None:
-    case Category:
-    case Other:
-        break;
+    default:
+        const auto data = QSharedPointer<ParameterData>::create();
+        data->type = node.type;
+        return data;
     }
-    const auto data = QSharedPointer<ParameterData>::create();
-    data->type = node.type;
-    return data;
 }
 
 } // namespace
 
 QString FakeNode::valueText() const
 {
-    switch (type) {
-    case Integer:
-    case Float:
-    case Boolean:
+    if (type == Integer || type == Float || type == Boolean) {
         return QString::number(number, 'g', 15);
-    case Command:
-        return QStringLiteral("Done");
-    case String:
-    case Enumeration:
-        return QString::fromUtf8(text);
-    case None:
-    case Category:
-    case Other:
-        break;
     }
-    return {};
+    return type == Command ? QStringLiteral("Done") : QString::fromUtf8(text);
 }
 
 QSharedPointer<ParameterData> FakeNode::snapshot() const

@@ -22,20 +22,20 @@ std::atomic<WarningGuard *> &watchingGuard()
     return guard;
 }
 
-bool isFault(Core::Logging::ELogLevel level)
-{
-    return level != Core::Logging::ELogLevel::Information;
-}
-
 // The offscreen platform says so of raising, activating and the like, whoever asks for it.
 bool isPlatformNoise(const QString &text)
 {
     return text.startsWith(QLatin1String("This plugin does not support "));
 }
 
-QString describe(Core::Logging::ELogLevel level, const QString &category, const QString &text)
+QString qtWarned()
 {
-    return QStringLiteral("%1 in %2: %3").arg(Host::levelText(level), category, text);
+    return QStringLiteral("Qt warned");
+}
+
+QString logged(Core::Logging::ELogLevel level, const QString &category)
+{
+    return QStringLiteral("Logged: %1 in %2").arg(Host::levelText(level), category);
 }
 
 } // namespace
@@ -48,8 +48,7 @@ WarningGuard::~WarningGuard()
 void WarningGuard::begin()
 {
     end();
-    m_expectedEntries.clear();
-    m_expectedWarnings.clear();
+    m_expected.clear();
     m_faults.clear();
     Host::Log::instance().clear();
     watchingGuard() = this;
@@ -59,12 +58,11 @@ void WarningGuard::begin()
 
 void WarningGuard::end()
 {
-    if (!m_watching) {
-        return;
+    if (m_watching) {
+        m_watching = false;
+        qInstallMessageHandler(m_previous);
+        watchingGuard() = nullptr;
     }
-    m_watching = false;
-    qInstallMessageHandler(m_previous);
-    watchingGuard() = nullptr;
 }
 
 void WarningGuard::verify()
@@ -78,9 +76,14 @@ void WarningGuard::verify()
 QStringList WarningGuard::finish()
 {
     end();
-    checkLog();
-    for (const QRegularExpression &expected : m_expectedWarnings) {
-        m_faults.append(QStringLiteral("Qt did not warn: ") + expected.pattern());
+    const QVector<Host::LogEntry> entries = Host::Log::instance().entries();
+    for (const Host::LogEntry &entry : entries) {
+        take(logged(entry.level, entry.category), entry.text,
+             entry.level != Core::Logging::ELogLevel::Information);
+    }
+    for (const Expected &expected : m_expected) {
+        m_faults.append(
+            QStringLiteral("Not so: %1: %2").arg(expected.where, expected.text.pattern()));
     }
     return m_faults;
 }
@@ -96,27 +99,25 @@ void WarningGuard::expectLogEntry(Core::Logging::ELogLevel level, const QString 
 void WarningGuard::expectLogEntry(Core::Logging::ELogLevel level, const QString &category,
                                   const QRegularExpression &text)
 {
-    m_expectedEntries.push_back({level, category, text});
+    const QMutexLocker locker(&m_mutex);
+    m_expected.push_back({logged(level, category), text});
 }
 
 void WarningGuard::expectQtWarning(const QRegularExpression &text)
 {
     const QMutexLocker locker(&m_mutex);
-    m_expectedWarnings.push_back(text);
+    m_expected.push_back({qtWarned(), text});
 }
 
 void WarningGuard::handleMessage(QtMsgType type, const QMessageLogContext &context,
                                  const QString &text)
 {
     WarningGuard *guard = watchingGuard();
-    if (guard == nullptr) {
+    if (guard == nullptr || isPlatformNoise(text)) {
         return;
     }
-    if (isPlatformNoise(text)) {
-        return;
-    }
-    const bool warning = type == QtWarningMsg || type == QtCriticalMsg;
-    if (warning && guard->takeQtWarning(text)) {
+    const bool isWarning = type == QtWarningMsg || type == QtCriticalMsg;
+    if (isWarning && guard->take(qtWarned(), text, true)) {
         return;
     }
     if (guard->m_previous != nullptr) {
@@ -124,40 +125,21 @@ void WarningGuard::handleMessage(QtMsgType type, const QMessageLogContext &conte
     }
 }
 
-bool WarningGuard::takeQtWarning(const QString &text)
+bool WarningGuard::take(const QString &where, const QString &text, bool isFault)
 {
     const QMutexLocker locker(&m_mutex);
-    const auto match = std::find_if(
-        m_expectedWarnings.begin(), m_expectedWarnings.end(),
-        [&text](const QRegularExpression &expected) { return expected.match(text).hasMatch(); });
-    if (match == m_expectedWarnings.end()) {
-        m_faults.append(QStringLiteral("Qt warned: ") + text);
-        return false;
+    const auto match =
+        std::find_if(m_expected.begin(), m_expected.end(), [&](const Expected &expected) {
+            return expected.where == where && expected.text.match(text).hasMatch();
+        });
+    if (match != m_expected.end()) {
+        m_expected.erase(match);
+        return true;
     }
-    m_expectedWarnings.erase(match);
-    return true;
-}
-
-void WarningGuard::checkLog()
-{
-    const QVector<Host::LogEntry> entries = Host::Log::instance().entries();
-    for (const Host::LogEntry &entry : entries) {
-        const auto match = std::find_if(
-            m_expectedEntries.begin(), m_expectedEntries.end(), [&entry](const ExpectedEntry &e) {
-                return e.level == entry.level && e.category == entry.category
-                    && e.text.match(entry.text).hasMatch();
-            });
-        if (match != m_expectedEntries.end()) {
-            m_expectedEntries.erase(match);
-        } else if (isFault(entry.level)) {
-            m_faults.append(QStringLiteral("Logged: ")
-                            + describe(entry.level, entry.category, entry.text));
-        }
+    if (isFault) {
+        m_faults.append(where + QStringLiteral(": ") + text);
     }
-    for (const ExpectedEntry &expected : m_expectedEntries) {
-        m_faults.append(QStringLiteral("Not logged: ")
-                        + describe(expected.level, expected.category, expected.text.pattern()));
-    }
+    return false;
 }
 
 } // namespace Tests

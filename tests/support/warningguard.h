@@ -49,24 +49,21 @@ public:
     void expectQtWarning(const QRegularExpression &text);
 
 private:
-    struct ExpectedEntry
+    struct Expected
     {
-        Core::Logging::ELogLevel level;
-        QString category;
+        QString where; // Qt, or the level and the category
         QRegularExpression text;
     };
 
     static void handleMessage(QtMsgType type, const QMessageLogContext &context,
                               const QString &text);
-    bool takeQtWarning(const QString &text);
-    void checkLog();
+    bool take(const QString &where, const QString &text, bool isFault);
     void end();
 
     bool m_watching = false;
     QtMessageHandler m_previous = nullptr; // borrowed: the one that was there before
-    std::vector<ExpectedEntry> m_expectedEntries;
     QMutex m_mutex; // guards the two below, which every thread may reach
-    std::vector<QRegularExpression> m_expectedWarnings;
+    std::vector<Expected> m_expected;
     QStringList m_faults;
 };
 

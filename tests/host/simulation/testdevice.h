@@ -6,7 +6,9 @@
 
 #pragma once
 
+#include "plugin/contract/genapi/genericexception.h"
 #include "plugin/contract/parametercollection/parameter.h"
+#include "plugin/contract/parametercollection/parameternode.h"
 
 #include "host/simulation/description/descriptionreader.h"
 #include "host/simulation/simulatedcollection.h"
@@ -15,20 +17,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <memory>
-
-/// A collection over the small device that these tests describe.
-inline QSharedPointer<Simulation::SimulatedCollection> openTestDevice()
-{
-    Simulation::DescriptionReader reader;
-    const auto description = reader.read(QStringLiteral(":/test/device.json"));
-    if (!reader.problems().isEmpty())
-        qWarning("%s", qPrintable(reader.problems().join(QLatin1Char('\n'))));
-    return QSharedPointer<Simulation::SimulatedCollection>::create(description);
-}
-
 /// The full name of a feature of the camera itself.
-inline QString cameraPath(const char *name)
+inline QString cameraPath(const QByteArray &name)
 {
     return QStringLiteral("@CameraDevice/") + QString::fromLatin1(name);
 }
@@ -54,15 +44,49 @@ public:
     }
 };
 
-/// True if `action` throws an `Exception`.
-template<typename Exception, typename Action> bool throws(Action action)
+/// A test over the small device that these tests describe; each function gets a new one. Names are
+/// those of features of the camera itself.
+class DeviceTest : public QObject
 {
-    try {
-        action();
-    } catch (const Exception &) {
-        return true;
-    } catch (...) {
-        return false;
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        Simulation::DescriptionReader reader;
+        const auto description = reader.read(QStringLiteral(":/test/device.json"));
+        QCOMPARE(reader.problems(), QStringList());
+        m_collection = QSharedPointer<Simulation::SimulatedCollection>::create(description);
     }
-    return false;
-}
+
+protected:
+    template<typename Interface = ParameterCollection::IParameter>
+    QSharedPointer<Interface> parameter(const QByteArray &name) const
+    {
+        return m_collection->parameter(cameraPath(name)).objectCast<Interface>();
+    }
+
+    template<typename Data = ParameterCollection::ParameterData>
+    QSharedPointer<const Data> data(const QByteArray &name) const
+    {
+        return parameter(name)->parameterData().dynamicCast<const Data>();
+    }
+
+    /// The value in the camera.
+    QVariant memory(const QByteArray &name) const
+    {
+        return m_collection->deviceValue(cameraPath(name));
+    }
+
+    void write(const QByteArray &name, const QString &text) const
+    {
+        parameter(name)->setFromString(text);
+    }
+
+    void write(const QByteArray &name, const char *text) const
+    {
+        write(name, QString::fromLatin1(text));
+    }
+
+    QSharedPointer<Simulation::SimulatedCollection> m_collection;
+};

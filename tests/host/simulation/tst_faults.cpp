@@ -4,10 +4,8 @@
 #include "testdevice.h"
 
 #include "plugin/contract/core/baseexception.h"
-#include "plugin/contract/genapi/genericexception.h"
 #include "plugin/contract/parametercollection/integerparameter.h"
 #include "plugin/contract/parametercollection/integerparameterdata.h"
-#include "plugin/contract/parametercollection/parameternode.h"
 
 #include <QElapsedTimer>
 
@@ -20,99 +18,98 @@ Q_DECLARE_METATYPE(Simulation::FaultKind)
 
 namespace {
 
-/// The kind of what `action` throws; 0 where it throws nothing.
+/// The kind of what `action` throws.
 template<typename Action> QByteArray thrownBy(Action action)
 {
     try {
         action();
         return QByteArrayLiteral("nothing");
     } catch (const GenICam::GenericException &) {
-        return QByteArrayLiteral("GenericException");
+        return QByteArrayLiteral("GenICam");
     } catch (const std::runtime_error &) {
-        return QByteArrayLiteral("std");
+        return QByteArrayLiteral("standard library");
     } catch (const Core::Exception::BaseException &) {
-        return QByteArrayLiteral("BaseException");
+        return QByteArrayLiteral("host");
     } catch (int) {
-        return QByteArrayLiteral("int");
+        return QByteArrayLiteral("unknown");
     }
 }
 
 } // namespace
 
 /// The switches that make a collection misbehave, and what it still does right then.
-class TestFaults : public QObject
+class TestFaults : public DeviceTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_collection = openTestDevice();
-        m_width = m_collection->parameter(cameraPath("Width")).objectCast<IIntegerParameter>();
-    }
-
     void throwsWhatIsAskedFor_data()
     {
         QTest::addColumn<FaultKind>("kind");
-        QTest::addColumn<QByteArray>("thrown");
-        QTest::newRow("GenICam") << FaultKind::GenericException << QByteArray("GenericException");
-        QTest::newRow("standard library") << FaultKind::StdException << QByteArray("std");
-        QTest::newRow("host") << FaultKind::BaseException << QByteArray("BaseException");
-        QTest::newRow("unknown") << FaultKind::Unknown << QByteArray("int");
+        QTest::newRow("GenICam") << FaultKind::GenericException;
+        QTest::newRow("standard library") << FaultKind::StdException;
+        QTest::newRow("host") << FaultKind::BaseException;
+        QTest::newRow("unknown") << FaultKind::Unknown;
     }
 
     void throwsWhatIsAskedFor()
     {
         QFETCH(const FaultKind, kind);
-        QFETCH(const QByteArray, thrown);
-        m_collection->faults().failWrites(m_width->fullName(), kind);
-        SnapshotSpy spy(m_width);
-        QCOMPARE(thrownBy([this] { m_width->setValue(320, true); }), thrown);
-        QCOMPARE(thrownBy([this] { m_width->setFromString(QStringLiteral("320")); }), thrown);
-        QCOMPARE(m_collection->deviceValue(m_width->fullName()), QVariant(640LL));
-        QCOMPARE(spy.count(), 2);
+        const QByteArray thrown = QTest::currentDataTag();
+        const QString width = cameraPath("Width");
+        m_collection->faults().failWrites(width, kind);
+        const SnapshotSpy spy(parameter("Width"));
+        QCOMPARE(thrownBy([this] { write("Width", "320"); }), thrown);
+        QCOMPARE(memory("Width"), QVariant(640LL));
+        QCOMPARE(spy.count(), 1);
         QCOMPARE(spy.text(), QStringLiteral("640"));
 
-        m_collection->faults().failReads(m_width->fullName(), kind);
-        QCOMPARE(thrownBy([this] { m_width->refresh(true); }), thrown);
-        m_width->node()->invalidate();
-        QCOMPARE(thrownBy([this] { m_width->value(); }), thrown);
-        QCOMPARE(thrownBy([this] { m_width->parameterData(); }), thrown);
-        QCOMPARE(spy.count(), 2);
+        m_collection->faults().failReads(width, kind);
+        parameter("Width")->node()->invalidate();
+        expectAccessToThrow(thrown);
+        QCOMPARE(spy.count(), 1);
 
-        m_collection->faults().clear(m_width->fullName());
-        m_width->setValue(320, true);
+        m_collection->faults().clear(width);
+        write("Width", "320");
         QCOMPARE(spy.text(), QStringLiteral("320"));
     }
 
     void passesOverAFeatureThatCannotBeRead()
     {
-        const auto offset = m_collection->parameter(cameraPath("OffsetX"));
-        m_collection->faults().failReads(offset->fullName(), FaultKind::Unknown);
-        SnapshotSpy widthSpy(m_width);
-        SnapshotSpy offsetSpy(offset);
-        m_width->setValue(320, true);
+        m_collection->faults().failReads(cameraPath("OffsetX"), FaultKind::Unknown);
+        const SnapshotSpy width(parameter("Width"));
+        const SnapshotSpy offset(parameter("OffsetX"));
+        write("Width", "320");
         m_collection->endBatchUpdate();
         m_collection->poll(300);
-        QCOMPARE(widthSpy.count(), 1);
-        QCOMPARE(offsetSpy.count(), 0);
+        QCOMPARE(width.count(), 1);
+        QCOMPARE(offset.count(), 0);
+    }
+
+    void publishesAChangeThatWasMissedByAFault()
+    {
+        const SnapshotSpy spy(parameter("Width"));
+        QVERIFY(data("Width"));
+        m_collection->faults().failReads(cameraPath("Width"), FaultKind::StdException);
+        m_collection->changeOnDevice(cameraPath("Width"), 320);
+        m_collection->endBatchUpdate();
+        m_collection->faults().clearAll();
+        QVERIFY(parameter("Width")->isWritable()); // reads it again, in silence
+        m_collection->endBatchUpdate();
+        QCOMPARE(spy.text(), QStringLiteral("320"));
     }
 
     void publishesAValueOutsideItsLimitsUntilItIsRepaired()
     {
-        SnapshotSpy spy(m_width);
-        m_collection->faults().publishOutsideLimits(m_width->fullName(), 4);
+        const SnapshotSpy spy(parameter("Width"));
+        m_collection->faults().publishOutsideLimits(cameraPath("Width"), 4);
         QCOMPARE(spy.count(), 1);
-        const auto data = spy.snapshot().dynamicCast<const IntegerParameterData>();
-        QCOMPARE(data->value, 4);
-        QCOMPARE(data->minimum, 16);
-        QVERIFY(data->isWritable);
-        QCOMPARE(m_width->value(), 4);
-
-        m_width->setValue(data->minimum, true);
+        QCOMPARE(spy.snapshot().dynamicCast<const IntegerParameterData>()->value, 4);
+        QVERIFY(spy.snapshot()->isWritable);
+        write("Width", "16");
         QCOMPARE(spy.count(), 2);
         QCOMPARE(spy.text(), QStringLiteral("16"));
-        QVERIFY(m_width->isWritable());
+        QVERIFY(parameter("Width")->isWritable());
     }
 
     void slowsDownEveryAccess()
@@ -120,30 +117,67 @@ private Q_SLOTS:
         m_collection->faults().setDelay(20);
         QElapsedTimer timer;
         timer.start();
-        m_width->refresh(true);
+        parameter("Width")->refresh(true);
         QVERIFY(timer.elapsed() >= 20);
-        m_width->setValue(320, true);
+        write("Width", "320");
         QVERIFY(timer.elapsed() >= 40);
     }
 
     void endsAllFaults()
     {
         Faults &faults = m_collection->faults();
-        SnapshotSpy spy(m_width);
+        const SnapshotSpy spy(parameter("Width"));
         faults.failReads(cameraPath("OffsetX"), FaultKind::StdException);
-        faults.failWrites(m_width->fullName(), FaultKind::StdException);
-        faults.publishOutsideLimits(m_width->fullName(), 9999);
+        faults.failWrites(cameraPath("Width"), FaultKind::StdException);
+        faults.publishOutsideLimits(cameraPath("Width"), 9999);
         faults.clearAll();
         QCOMPARE(spy.text(), QStringLiteral("640"));
-        m_width->setValue(320, true);
-        QCOMPARE(
-            thrownBy([this] { m_collection->parameter(cameraPath("OffsetX"))->refresh(true); }),
-            QByteArray("nothing"));
+        write("Width", "320");
+        parameter("OffsetX")->refresh(true);
+    }
+
+    void staysSilentWhileUnplugged()
+    {
+        const auto width = parameter<IIntegerParameter>("Width");
+        const SnapshotSpy spy(width);
+        m_collection->setPublication(Publication::Deferred);
+        width->refresh(true);
+        m_collection->unplug();
+        QVERIFY(width->isNull() && !width->isWritable());
+        QCOMPARE(thrownBy([&] { width->setValue(320, true); }), QByteArray("GenICam"));
+        expectAccessToThrow("GenICam");
+        m_collection->poll(300);
+        m_collection->endBatchUpdate();
+        width->node()->invalidate();
+        m_collection->changeOnDevice(cameraPath("Width"), 160);
+        QCoreApplication::processEvents();
+        QCOMPARE(spy.count(), 0);
+
+        m_collection->revive();
+        QVERIFY(!width->isNull());
+        QCOMPARE(parameter("Width"), width.staticCast<IParameter>());
+        QCOMPARE(width->value(), 160);
+        width->setValue(320, true);
+        QTRY_COMPARE(spy.count(), 1);
+    }
+
+    void outlivesItsCollection()
+    {
+        const auto width = parameter("Width");
+        m_collection.clear();
+        QVERIFY(width->isNull());
+        QCOMPARE(width->name(), QStringLiteral("Width"));
+        QVERIFY_EXCEPTION_THROWN(width->refresh(true), GenICam::GenericException);
     }
 
 private:
-    QSharedPointer<SimulatedCollection> m_collection;
-    QSharedPointer<IIntegerParameter> m_width;
+    void expectAccessToThrow(const QByteArray &thrown) const
+    {
+        const auto width = parameter<IIntegerParameter>("Width");
+        QCOMPARE(thrownBy([&] { width->value(); }), thrown);
+        QCOMPARE(thrownBy([&] { width->parameterData(); }), thrown);
+        QCOMPARE(thrownBy([&] { width->refresh(true); }), thrown);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestFaults)

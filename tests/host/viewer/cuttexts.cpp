@@ -11,14 +11,9 @@
 #include <QFontMetricsF>
 #include <QHeaderView>
 #include <QLabel>
-#include <QMenuBar>
 #include <QQuickItem>
 #include <QStyle>
-#include <QStyleOptionComboBox>
 #include <QStyleOptionDockWidget>
-#include <QTabBar>
-
-#include <algorithm>
 
 namespace Tests {
 
@@ -27,8 +22,8 @@ namespace {
 struct Need
 {
     QString text;
-    QSize size;
-    QSize room;
+    QSizeF size;
+    QSizeF room;
 };
 
 using Needs = QVector<Need>;
@@ -49,33 +44,14 @@ Needs ofLabel(const QLabel &label)
     return {{label.text(), size, label.size()}};
 }
 
-Needs ofList(const QComboBox &list)
-{
-    QStyleOptionComboBox option;
-    option.initFrom(&list);
-    const QSize room =
-        list.style()
-            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &list)
-            .size();
-    Needs needs {{list.currentText(), sizeOf(list, list.currentText()), room}};
-    const QWidget *popup = list.view();
-    const int width = qMax(popup->minimumWidth(), list.width());
-    needs.reserve(list.count() + 1);
-    for (int i = 0; i < list.count(); ++i) {
-        const QSize size = sizeOf(*popup, list.itemText(i));
-        needs.append({list.itemText(i), size, {width, size.height()}});
-    }
-    return needs;
-}
-
 Needs ofHeader(const QHeaderView &header)
 {
     Needs needs;
     needs.reserve(header.count());
     for (int i = 0; header.orientation() == Qt::Horizontal && i < header.count(); ++i) {
         needs.append({header.model()->headerData(i, Qt::Horizontal).toString(),
-                      {header.sectionSizeHint(i), header.sizeHint().height()},
-                      {header.sectionSize(i), header.height()}});
+                      QSize(header.sectionSizeHint(i), header.sizeHint().height()),
+                      QSize(header.sectionSize(i), header.height())});
     }
     return needs;
 }
@@ -90,30 +66,20 @@ Needs ofDock(const QDockWidget &dock)
     const QSize room =
         dock.style()->subElementRect(QStyle::SE_DockWidgetTitleBarText, &option, &dock).size();
     const QSize size = sizeOf(dock, option.title);
-    return {{option.title, size, {room.width(), size.height()}}};
+    return {{option.title, size, QSize(room.width(), size.height())}};
 }
 
-Needs ofTabs(const QTabBar &tabs)
+Needs ofButton(const QAbstractButton &button)
 {
-    Needs needs;
-    needs.reserve(tabs.count());
-    for (int i = 0; i < tabs.count(); ++i) {
-        needs.append({tabs.tabText(i), sizeOf(tabs, tabs.tabText(i)), tabs.tabRect(i).size()});
+    const QWidget *view = button.parentWidget();
+    while (view && !qobject_cast<const QAbstractItemView *>(view)) {
+        view = view->parentWidget();
     }
-    return needs;
-}
-
-Needs ofMenuBar(const QMenuBar &bar)
-{
-    Needs needs;
-    const auto actions = bar.actions();
-    needs.reserve(actions.size());
-    for (const QAction *action : actions) {
-        needs.append(
-            {action->text(), sizeOf(bar, action->text()),
-             bar.actionGeometry(const_cast<QAction *>(action)).intersected(bar.rect()).size()});
+    QSize size = button.sizeHint();
+    if (view) { // which gives its cells their height
+        size.setHeight(sizeOf(button, button.text()).height());
     }
-    return needs;
+    return button.text().isEmpty() ? Needs() : Needs {{button.text(), size, button.size()}};
 }
 
 Needs ofSearchLine(const QWidget &line)
@@ -123,25 +89,13 @@ Needs ofSearchLine(const QWidget &line)
     return {{help, sizeOf(line, help), line.size() - QSize(margins, 0)}};
 }
 
-bool isInCell(const QWidget &widget)
-{
-    const QWidget *view = widget.parentWidget();
-    while (view && !qobject_cast<const QAbstractItemView *>(view)) {
-        view = view->parentWidget();
-    }
-    return view;
-}
-
 Needs needsOf(const QWidget &widget)
 {
     if (const auto *label = qobject_cast<const QLabel *>(&widget)) {
         return ofLabel(*label);
     }
     if (const auto *button = qobject_cast<const QAbstractButton *>(&widget)) {
-        const QSize size = isInCell(widget)
-            ? QSize(button->sizeHint().width(), sizeOf(widget, button->text()).height())
-            : button->sizeHint();
-        return button->text().isEmpty() ? Needs() : Needs {{button->text(), size, button->size()}};
+        return ofButton(*button);
     }
     if (const auto *header = qobject_cast<const QHeaderView *>(&widget)) {
         return ofHeader(*header);
@@ -149,61 +103,54 @@ Needs needsOf(const QWidget &widget)
     if (const auto *dock = qobject_cast<const QDockWidget *>(&widget)) {
         return ofDock(*dock);
     }
-    if (const auto *tabs = qobject_cast<const QTabBar *>(&widget)) {
-        return ofTabs(*tabs);
-    }
-    if (const auto *bar = qobject_cast<const QMenuBar *>(&widget)) {
-        return ofMenuBar(*bar);
-    }
-    const auto *list = qobject_cast<const QComboBox *>(&widget);
-    if (list && !isInCell(widget)) {
-        return ofList(*list);
-    }
     return widget.inherits("SearchEdit") ? ofSearchLine(widget) : Needs();
 }
 
-QString line(const QObject &owner, const QString &text, QSizeF size, QSizeF room)
+Needs needsOf(const QQuickItem &item)
 {
-    return QStringLiteral("%1 %2 \"%3\" needs %4x%5, has %6x%7")
-        .arg(QLatin1String(owner.metaObject()->className()), owner.objectName(), text)
-        .arg(size.width())
-        .arg(size.height())
-        .arg(room.width())
-        .arg(room.height());
-}
-
-QSizeF neededBy(const QQuickItem &item)
-{
+    const QFontMetricsF metrics(item.property("font").value<QFont>());
     if (item.inherits("QQuickText")) {
         // One that shrinks its text to fit shall not have to do so by more than a tenth.
         const double shrunk = item.property("fontSizeMode").toInt() == 0 ? 1.0 : 0.9;
-        const QFontMetricsF metrics(item.property("font").value<QFont>());
-        return {shrunk * metrics.horizontalAdvance(item.property("text").toString()),
-                item.property("contentHeight").toReal()};
+        const QString text = item.property("text").toString();
+        const QSizeF size(shrunk * metrics.horizontalAdvance(text) - 0.5,
+                          item.property("contentHeight").toReal() - 0.5);
+        return {{text, size, item.size()}};
     }
-    const QString help = item.property("placeholderText").toString();
-    return {QFontMetricsF(item.property("font").value<QFont>()).horizontalAdvance(help)
-                + item.property("leftPadding").toReal() + item.property("rightPadding").toReal(),
-            item.implicitHeight()};
+    if (item.inherits("QQuickTextField")) {
+        const QString help = item.property("placeholderText").toString();
+        const double padding =
+            item.property("leftPadding").toReal() + item.property("rightPadding").toReal();
+        return {{help,
+                 {metrics.horizontalAdvance(help) + padding, item.implicitHeight()},
+                 item.size()}};
+    }
+    return {};
+}
+
+template<typename Owner> QStringList cutTextsOf(const Owner &owner)
+{
+    QStringList result;
+    const Needs needs = needsOf(owner);
+    for (const Need &need : needs) {
+        if (need.size.width() > need.room.width() || need.size.height() > need.room.height()) {
+            result.append(QStringLiteral("%1 %2 \"%3\"")
+                              .arg(QLatin1String(owner.metaObject()->className()),
+                                   owner.objectName(), need.text));
+        }
+    }
+    return result;
 }
 
 } // namespace
 
 QStringList cutTexts(const QWidget &window)
 {
-    QStringList result;
-    QList<const QWidget *> widgets {&window};
+    QStringList result = cutTextsOf(window);
     const auto children = window.findChildren<QWidget *>();
-    std::copy(children.begin(), children.end(), std::back_inserter(widgets));
-    for (const QWidget *widget : qAsConst(widgets)) {
-        if (!widget->isVisible()) {
-            continue;
-        }
-        const Needs needs = needsOf(*widget);
-        for (const Need &need : needs) {
-            if (need.size.width() > need.room.width() || need.size.height() > need.room.height()) {
-                result.append(line(*widget, need.text, need.size, need.room));
-            }
+    for (const QWidget *widget : children) {
+        if (widget->isVisible()) {
+            result += cutTextsOf(*widget);
         }
     }
     return result;
@@ -214,16 +161,9 @@ QStringList cutTexts(const QQuickItem &scene)
     QStringList result;
     const auto children = scene.childItems();
     for (const QQuickItem *item : children) {
-        if (!item->isVisible()) {
-            continue;
+        if (item->isVisible()) {
+            result += cutTextsOf(*item) + cutTexts(*item);
         }
-        const bool isText = item->inherits("QQuickText") || item->inherits("QQuickTextField");
-        const QSizeF need = isText ? neededBy(*item) : QSizeF();
-        if (isText
-            && (need.width() > item->width() + 0.5 || need.height() > item->height() + 0.5)) {
-            result.append(line(*item, item->property("text").toString(), need, item->size()));
-        }
-        result += cutTexts(*item);
     }
     return result;
 }

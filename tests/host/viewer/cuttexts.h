@@ -11,7 +11,7 @@ class QWidget;
 namespace Tests {
 
 /// The texts that a window has too little room for, each with its widget: those of the visible
-/// labels, buttons, lists, column and dock titles, tabs, menu bars and search lines below `window`,
+/// labels, buttons, column and dock titles and search lines below `window`,
 /// and of the window itself. What a device says (names, values) is left out.
 QStringList cutTexts(const QWidget &window);
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Tessera contributors
 // SPDX-License-Identifier: MIT
 
+#include "support/settingsfolder.h"
 #include "support/warningguard.h"
 
 #include <host/viewer/mainwindow.h>
@@ -65,9 +66,6 @@ class DraggingTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QVERIFY(m_settings.isValid());
-        QSettings::setDefaultFormat(QSettings::IniFormat);
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_settings.path());
         start();
     }
 
@@ -264,7 +262,7 @@ private:
         QCoreApplication::processEvents();
     }
 
-    QTemporaryDir m_settings;
+    Tests::SettingsFolder m_settings;
     Tests::WarningGuard m_guard;
     QScopedPointer<ViewerApplication> m_viewer;
 };
