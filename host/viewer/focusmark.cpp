@@ -4,28 +4,42 @@
 #include "focusmark.h"
 
 #include <QEvent>
-#include <QFocusFrame>
+#include <QPainter>
 
 namespace Viewer {
 
 FocusMark::FocusMark(QWidget *widget)
-    : QObject(widget)
-    , m_widget(widget)
-    , m_frame(new QFocusFrame(widget))
+    : QWidget(widget)
 {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    hide();
     widget->installEventFilter(this);
 }
 
-FocusMark::~FocusMark() = default;
+void FocusMark::paintEvent(QPaintEvent * /*event*/)
+{
+    constexpr int width = 2;
+    QPainter painter(this);
+    painter.setPen(QPen(palette().highlight(), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(rect().adjusted(width / 2, width / 2, -width / 2, -width / 2));
+}
 
 bool FocusMark::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::FocusIn) {
-        m_frame->setWidget(m_widget);
-    } else if (event->type() == QEvent::FocusOut) {
-        m_frame->setWidget(nullptr);
+    switch (event->type()) {
+    case QEvent::FocusIn:
+    case QEvent::Resize:
+        setGeometry(parentWidget()->rect());
+        setVisible(parentWidget()->hasFocus());
+        raise();
+        break;
+    case QEvent::FocusOut:
+        hide();
+        break;
+    default:
+        break;
     }
-    return QObject::eventFilter(watched, event);
+    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace Viewer

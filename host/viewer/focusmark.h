@@ -3,29 +3,22 @@
 
 #pragma once
 
-#include <QObject>
-
-class QFocusFrame;
-class QWidget;
+#include <QWidget>
 
 namespace Viewer {
 
-/// A frame around a widget while it has the keyboard, for one that shows nothing of it by itself.
-class FocusMark final : public QObject
+/// A line round a widget while it has the keyboard, for one that shows nothing of it by itself.
+class FocusMark final : public QWidget
 {
     Q_OBJECT
 
 public:
     /// `widget` becomes the parent.
     explicit FocusMark(QWidget *widget);
-    ~FocusMark() override;
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
-
-private:
-    QWidget *m_widget; // parent
-    QFocusFrame *m_frame; // by parent
 };
 
 } // namespace Viewer

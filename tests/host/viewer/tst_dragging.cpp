@@ -1,38 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Tessera contributors
 // SPDX-License-Identifier: MIT
 
-#include "support/settingsfolder.h"
-#include "support/warningguard.h"
+#include "viewertest.h"
 
-#include <host/viewer/mainwindow.h>
-#include <host/viewer/panecommands.h>
-#include <host/viewer/viewerapplication.h>
-
-#include <QDockWidget>
 #include <QDrag>
 #include <QLabel>
 #include <QMimeData>
 #include <QProcess>
 #include <QPushButton>
-#include <QQuickItem>
-#include <QQuickView>
-#include <QTableView>
-#include <QtTest>
-
-#include <algorithm>
-
-using Viewer::ViewerApplication;
-
-namespace {
-
-constexpr int fullNameRole = 288;
-
-QString path(const char *name)
-{
-    return QLatin1String("@CameraDevice/") + QLatin1String(name);
-}
-
-} // namespace
 
 /// A window of somebody else's, out of which the path of a feature can be dragged as a text.
 class Foreign final : public QLabel
@@ -48,7 +23,7 @@ protected:
     {
         auto *drag = new QDrag(this);
         auto *text = new QMimeData;
-        text->setText(path("BlackLevel"));
+        text->setText(QStringLiteral("@CameraDevice/BlackLevel"));
         drag->setMimeData(text);
         connect(drag, &QDrag::actionChanged, this,
                 [this](Qt::DropAction offer) { offers.append(offer); });
@@ -59,49 +34,42 @@ protected:
 
 /// Tabs of a user's own, made with a real pointer: rows dragged out of the table of All, foreign
 /// things refused, rows put in another order, all of it found again by the next viewer.
-class DraggingTest : public QObject
+class DraggingTest : public ViewerTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
+    void fillsATab()
     {
-        start();
-    }
-
-    void init()
-    {
-        m_guard.begin();
-    }
-
-    void cleanup()
-    {
-        m_guard.verify();
-    }
-
-    void cleanupTestCase()
-    {
-        stop();
-    }
-
-    void takesRowsOfTheTableIntoTheWindow()
-    {
-        Viewer::PaneCommands(m_viewer->window()).select(path("Gain"));
-        auto *open = dock("All")->findChild<QPushButton *>(QStringLiteral("addNewFavoriteButton"));
-        QTest::mouseClick(open, Qt::LeftButton);
+        window()->move(0, 0);
+        pane().select(path("Gain"));
+        QTest::mouseClick(widget("addNewFavoriteButton"), Qt::LeftButton);
         QTRY_VERIFY(tabsWindow());
         QVERIFY(QTest::qWaitForWindowExposed(tabsWindow()));
 
         clickInWindow("textField");
-        xdotool({QStringLiteral("type"), QStringLiteral("Light")});
+        type(QStringLiteral("Light"));
         QTRY_COMPARE(item("textField")->property("text").toString(), QStringLiteral("Light"));
-        drag(nameCell("All", path("Gain")), middleOf("dragAndDrop"));
+        drag(nameCell("All", "Gain"), middleOf("dragAndDrop"));
         QTRY_VERIFY(item("feature0"));
-        drag(nameCell("All", path("GainAuto")), middleOf("dragAndDrop"));
+        drag(nameCell("All", "GainAuto"), middleOf("dragAndDrop"));
         QTRY_VERIFY(item("feature1"));
+        expectAForeignDragIsRefused();
+
+        clickInWindow("addButton");
+        expectTab({path("Gain"), path("GainAuto")});
+        QTRY_VERIFY(table("User0")->indexWidget(table("User0")->model()->index(0, 1)));
+
+        drag(nameCell("User0", "GainAuto"), nameCell("User0", "Gain"));
+        expectTab({path("GainAuto"), path("Gain")});
+
+        m_viewer->shutDown();
+        start();
+        expectTab({path("GainAuto"), path("Gain")});
     }
 
-    void refusesADragFromAnotherWindow()
+private:
+    void expectAForeignDragIsRefused() const
     {
         Foreign foreign;
         foreign.setGeometry(20, 900, 200, 100);
@@ -113,61 +81,12 @@ private Q_SLOTS:
         QVERIFY(!item("feature2"));
     }
 
-    void confirmsTheTab()
+    void expectTab(const QStringList &features) const
     {
-        clickInWindow("addButton");
         QTRY_VERIFY(dock("User0")->isVisible());
         QCOMPARE(dock("User0")->windowTitle(), QStringLiteral("Features – Light"));
-        Viewer::PaneCommands(m_viewer->window()).showPane(QStringLiteral("User0"));
-        QTRY_COMPARE(rows("User0"), QStringList({path("Gain"), path("GainAuto")}));
-        const QTableView *list = table("User0");
-        QTRY_VERIFY(list->indexWidget(list->model()->index(0, 1)));
-    }
-
-    void putsTheRowsInAnotherOrder()
-    {
-        drag(nameCell("User0", path("GainAuto")), nameCell("User0", path("Gain")));
-        QTRY_COMPARE(rows("User0"), QStringList({path("GainAuto"), path("Gain")}));
-    }
-
-    void findsTheTabAgain()
-    {
-        stop();
-        start();
-        QTRY_COMPARE(dock("User0")->windowTitle(), QStringLiteral("Features – Light"));
-        Viewer::PaneCommands(m_viewer->window()).showPane(QStringLiteral("User0"));
-        QTRY_COMPARE(rows("User0"), QStringList({path("GainAuto"), path("Gain")}));
-    }
-
-private:
-    void start()
-    {
-        m_viewer.reset(new ViewerApplication({}));
-        m_viewer->start(QStringLiteral(PLUGIN_FOLDER));
-        QVERIFY(QTest::qWaitForWindowExposed(m_viewer->window()));
-        m_viewer->window()->move(0, 0);
-        m_viewer->window()->activateWindow();
-    }
-
-    void stop()
-    {
-        m_viewer->shutDown();
-        m_viewer.reset();
-    }
-
-    QDockWidget *dock(const char *pane) const
-    {
-        return m_viewer->window()->findChild<QDockWidget *>(QLatin1String("Tessera.Widget.")
-                                                            + QLatin1String(pane));
-    }
-
-    QTableView *table(const char *pane) const
-    {
-        const auto tables =
-            dock(pane)->findChildren<QTableView *>(QStringLiteral("tesseraTableView"));
-        const auto shown = std::find_if(tables.begin(), tables.end(),
-                                        [](const QTableView *each) { return each->isVisible(); });
-        return shown == tables.end() ? nullptr : *shown;
+        pane("User0");
+        QTRY_COMPARE(rows("User0"), features);
     }
 
     QStringList rows(const char *pane) const
@@ -176,26 +95,18 @@ private:
         const QTableView *list = table(pane);
         names.reserve(list ? list->model()->rowCount() : 0);
         for (int row = 0; list && row < list->model()->rowCount(); ++row) {
+            constexpr int fullNameRole = 288;
             names.append(list->model()->index(row, 0).data(fullNameRole).toString());
         }
         return names;
     }
 
     /// The middle of the name on the screen.
-    QPoint nameCell(const char *pane, const QString &fullName) const
+    QPoint nameCell(const char *pane, const char *feature) const
     {
         const QTableView *list = table(pane);
-        const QModelIndex name = list->model()->index(rows(pane).indexOf(fullName), 0);
+        const QModelIndex name = list->model()->index(rows(pane).indexOf(path(feature)), 0);
         return list->viewport()->mapToGlobal(list->visualRect(name).center());
-    }
-
-    static QQuickView *tabsWindow()
-    {
-        const QWindowList windows = QGuiApplication::topLevelWindows();
-        const auto shown = std::find_if(windows.begin(), windows.end(), [](QWindow *window) {
-            return window->isVisible() && qobject_cast<QQuickView *>(window);
-        });
-        return shown == windows.end() ? nullptr : qobject_cast<QQuickView *>(*shown);
     }
 
     static QQuickItem *item(const char *name)
@@ -227,44 +138,49 @@ private:
 
     static void clickInWindow(const char *name)
     {
-        const QPoint place = middleOf(name);
-        xdotool({QStringLiteral("mousemove"), QString::number(place.x()),
-                 QString::number(place.y()), QStringLiteral("click"), QStringLiteral("1")});
+        move({moveTo(middleOf(name)), pointer("click")});
     }
 
     /// A drag with some way in between, as a hand makes it.
     static void drag(QPoint from, QPoint to)
     {
-        QStringList script;
-        const auto move = [&script](QPoint place) {
-            script += {QStringLiteral("mousemove"), QString::number(place.x()),
-                       QString::number(place.y()), QStringLiteral("sleep"), QStringLiteral("0.05")};
-        };
         constexpr int steps = 8;
-        move(from);
-        script += {QStringLiteral("mousedown"), QStringLiteral("1")};
+        QVector<QStringList> way {moveTo(from), pointer("mousedown")};
         for (int step = 1; step <= steps; ++step) {
-            move(from + (to - from) * step / steps);
+            way.append(moveTo(from + (to - from) * step / steps));
         }
-        move(to + QPoint(1, 1));
-        script += {QStringLiteral("sleep"), QStringLiteral("0.2"), QStringLiteral("mouseup"),
-                   QStringLiteral("1")};
-        xdotool(script);
+        way += QVector<QStringList>(4, moveTo(to + QPoint(1, 1)));
+        way.append(pointer("mouseup"));
+        move(way);
     }
 
-    /// A drag has an event loop of its own, in which the pointer must go on moving.
-    static void xdotool(const QStringList &arguments)
+    static QStringList moveTo(QPoint place)
     {
-        QProcess program;
-        program.start(QStringLiteral("xdotool"), arguments);
-        QTRY_COMPARE(program.state(), QProcess::NotRunning);
-        QCOMPARE(program.exitCode(), 0);
-        QCoreApplication::processEvents();
+        return {QStringLiteral("mousemove"), QString::number(place.x()),
+                QString::number(place.y())};
     }
 
-    Tests::SettingsFolder m_settings;
-    Tests::WarningGuard m_guard;
-    QScopedPointer<ViewerApplication> m_viewer;
+    static QStringList pointer(const char *act)
+    {
+        return {QLatin1String(act), QStringLiteral("1")};
+    }
+
+    /// A drag has an event loop of its own, in which the pointer must go on moving; and it moves
+    /// no faster than the viewer can follow.
+    static void move(const QVector<QStringList> &way)
+    {
+        QTimer hand;
+        int step = 0;
+        connect(&hand, &QTimer::timeout, &hand, [&] {
+            if (step == way.size()) {
+                hand.stop();
+            } else {
+                QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), way.at(step++)), 0);
+            }
+        });
+        hand.start(40);
+        QTRY_VERIFY_WITH_TIMEOUT(!hand.isActive(), 30000);
+    }
 };
 
 QTEST_MAIN(DraggingTest)
