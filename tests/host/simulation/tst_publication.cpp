@@ -125,11 +125,12 @@ private Q_SLOTS:
     void publishesTheAliasBeforeItsFloat()
     {
         QFETCH(const QString, text);
-        QStringList order;
         const QObject receiver;
+        QStringList order;
+        const auto note = [&order](const auto &data) { order.append(data->valueText); };
         for (const char *name : {"Gain", "Gain/Alias"})
             connect(parameter(name).data(), &IParameter::parameterDataChangedDecoupled, &receiver,
-                    [&order](const auto &data) { order.append(data->valueText); });
+                    note);
         write(QTest::currentDataTag(), text);
         QCOMPARE(order, QStringList({QStringLiteral("1000"), QStringLiteral("10.000")}));
     }

@@ -100,13 +100,13 @@ private Q_SLOTS:
         const QString function = cameraPath("BalanceWhiteAuto");
         collection->parameter(function)->setFromString(QStringLiteral("Once"));
         QTRY_COMPARE(collection->deviceValue(function), QVariant(QStringLiteral("Off")));
-        QVector<QVariant> ratios;
-        for (const char *colour : {"Red", "Green", "Blue"}) {
-            collection->parameter(cameraPath("BalanceRatioSelector"))
-                ->setFromString(QString::fromLatin1(colour));
-            ratios += collection->deviceValue(cameraPath("BalanceRatio"));
-        }
-        QCOMPARE(ratios, QVector<QVariant>({1.45, 1.0, 1.82}));
+        const auto ratio = [&](const QString &colour) {
+            collection->parameter(cameraPath("BalanceRatioSelector"))->setFromString(colour);
+            return collection->deviceValue(cameraPath("BalanceRatio"));
+        };
+        QCOMPARE(ratio(QStringLiteral("Red")), QVariant(1.45));
+        QCOMPARE(ratio(QStringLiteral("Green")), QVariant(1.0));
+        QCOMPARE(ratio(QStringLiteral("Blue")), QVariant(1.82));
     }
 
     void generatesAsManyFeaturesAsAskedFor_data()

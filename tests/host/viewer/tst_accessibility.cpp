@@ -67,7 +67,7 @@ bool hasValue(QAccessibleInterface &part)
 
 // What the interface tells is what the widget is. Of a view, Qt tells no state but those of its
 // rows.
-bool isTrue(const QAccessible::State &state, const QWidget &widget)
+bool isTrue(QAccessible::State state, const QWidget &widget)
 {
     if (qobject_cast<const QAbstractItemView *>(&widget)) {
         return true;

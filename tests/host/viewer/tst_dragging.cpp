@@ -145,7 +145,9 @@ private:
     static void drag(QPoint from, QPoint to)
     {
         constexpr int steps = 8;
-        QVector<QStringList> way {moveTo(from), pointer("mousedown")};
+        QVector<QStringList> way;
+        way.reserve(steps + 7);
+        way += {moveTo(from), pointer("mousedown")};
         for (int step = 1; step <= steps; ++step) {
             way.append(moveTo(from + (to - from) * step / steps));
         }

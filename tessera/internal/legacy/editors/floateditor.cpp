@@ -141,7 +141,9 @@ void FloatEditor::showSnapshot(const QSharedPointer<IParameter> &parameter,
         setRangeStepAndIncrement(snapshot.minimum, snapshot.maximum, step);
         updateToolTip();
     }
-    if (changed || snapshot.value != clampToNode(spinBox()->value())) {
+    if (changed
+        || (snapshot.value != clampToNode(spinBox()->value())
+            && !spinBox()->shows(snapshot.value))) {
         setValue(snapshot.value);
     }
 }

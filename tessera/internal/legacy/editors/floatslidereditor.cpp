@@ -257,7 +257,8 @@ void FloatSliderEditor::showFloat(const FloatParameterData &snapshot)
         updateToolTip();
     }
     const double shown = clampToNode(spinBox()->value());
-    if (changed || std::abs(snapshot.value - shown) > tolerance) {
+    if (changed
+        || (std::abs(snapshot.value - shown) > tolerance && !spinBox()->shows(snapshot.value))) {
         setValue(snapshot.value);
     }
 }

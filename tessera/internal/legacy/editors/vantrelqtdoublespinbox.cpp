@@ -30,6 +30,11 @@ void VantrelQtDoubleSpinBox::setPageStep(double step)
     m_pageStep = step;
 }
 
+bool VantrelQtDoubleSpinBox::shows(double value) const
+{
+    return !lineEdit()->isModified() && text() == textFromValue(value);
+}
+
 bool VantrelQtDoubleSpinBox::missesAnswer(double value) const
 {
     return !lineEdit()->isModified() && text() != textFromValue(value);

@@ -18,6 +18,10 @@ public:
     double pageStep() const;
     void setPageStep(double step);
 
+    /// True if `value` reads as what stands in the box, untouched by the user. The box itself
+    /// rounds to its decimals, so that its value does not tell.
+    bool shows(double value) const;
+
     /// True when something else than `value` is shown and the user has not typed it.
     bool missesAnswer(double value) const;
 

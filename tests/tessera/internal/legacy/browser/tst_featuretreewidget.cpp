@@ -44,7 +44,8 @@ const QString features = QStringLiteral("Image name=Image_Format\n"
                                         "    AVeryLongNameThatDoesNotFitIntoTheColumn Boolean 1\n"
                                         "Other\n"
                                         "  Far Integer 3\n"
-                                        "  Near Boolean 0\n");
+                                        "  Near Boolean 0\n"
+                                        "  Gain/Alias Integer 15 [0..240] invisible\n");
 
 ParameterName name(const char *shortName)
 {
@@ -129,14 +130,27 @@ private Q_SLOTS:
         QCOMPARE(shown(), QString());
     }
 
+    void paintsWhatChangesAndNothingElse_data()
+    {
+        QTest::addColumn<QString>("representation");
+        QTest::newRow("box") << QStringLiteral("PureNumber");
+        QTest::newRow("box and slider") << QStringLiteral("Linear");
+    }
+
     void paintsWhatChangesAndNothingElse()
     {
+        QFETCH(const QString, representation);
         add();
+        node("Gain").properties.insert(QStringLiteral("Representation"), representation);
+        node("Gain").number = 1.0 / 3; // more decimals than are shown
+        node("Gain").minimum = -1.0 / 3;
         select("Image Format");
         PaintCounter painted;
         qApp->installEventFilter(&painted);
         const auto publish = [&] {
             node("Width").publish();
+            node("Gain").publish();
+            node("Gain/Alias").publish();
             node("AVeryLongNameThatDoesNotFitIntoTheColumn").publish();
             QCoreApplication::processEvents();
             return std::exchange(painted.count, 0);
