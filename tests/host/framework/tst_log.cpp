@@ -67,15 +67,6 @@ private Q_SLOTS:
         }
     }
 
-    void keepsTheNewestEntriesOnly()
-    {
-        for (int i = 0; i < Host::Log::capacity + 5; ++i) {
-            createLogEntry(ELogLevel::Information, getCatId("test.many"), QString::number(i));
-        }
-        QCOMPARE(lines().size(), Host::Log::capacity);
-        QVERIFY(lines().constFirst().endsWith(QStringLiteral(": 5")));
-    }
-
     void announcesEntriesOfOtherThreadsOnTheGuiThread()
     {
         QVector<QThread *> seenOn;

@@ -175,22 +175,6 @@ private Q_SLOTS:
         QCOMPARE(Host::findService<IParameterService>(m_registry).data(), second.data());
     }
 
-    void clearDeletesTheNewestFirstWithTheLockFree()
-    {
-        QVector<int> order;
-        for (const int number : {1, 2}) {
-            const QSharedPointer<IService> service(new Host::ParameterPool);
-            m_registry->registerService(service);
-            connect(service.data(), &QObject::destroyed, this, [this, &order, number] {
-                order.append(number);
-                QVERIFY(m_registry->lock()->tryLockForWrite());
-                m_registry->lock()->unlock();
-            });
-        }
-        m_registry->clear();
-        QCOMPARE(order, QVector<int>({2, 1}));
-    }
-
 private:
     Tests::WarningGuard m_guard;
     QSharedPointer<Host::ServiceRegistry> m_registry;

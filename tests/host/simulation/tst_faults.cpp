@@ -7,8 +7,6 @@
 #include "plugin/contract/parametercollection/integerparameter.h"
 #include "plugin/contract/parametercollection/integerparameterdata.h"
 
-#include <QElapsedTimer>
-
 #include <stdexcept>
 
 using namespace ParameterCollection;
@@ -74,31 +72,6 @@ private Q_SLOTS:
         QCOMPARE(spy.text(), QStringLiteral("320"));
     }
 
-    void passesOverAFeatureThatCannotBeRead()
-    {
-        m_collection->faults().failReads(cameraPath("OffsetX"), FaultKind::Unknown);
-        const SnapshotSpy width(parameter("Width"));
-        const SnapshotSpy offset(parameter("OffsetX"));
-        write("Width", "320");
-        m_collection->endBatchUpdate();
-        m_collection->poll(300);
-        QCOMPARE(width.count(), 1);
-        QCOMPARE(offset.count(), 0);
-    }
-
-    void publishesAChangeThatWasMissedByAFault()
-    {
-        const SnapshotSpy spy(parameter("Width"));
-        QVERIFY(data("Width"));
-        m_collection->faults().failReads(cameraPath("Width"), FaultKind::StdException);
-        m_collection->changeOnDevice(cameraPath("Width"), 320);
-        m_collection->endBatchUpdate();
-        m_collection->faults().clearAll();
-        QVERIFY(parameter("Width")->isWritable()); // reads it again, in silence
-        m_collection->endBatchUpdate();
-        QCOMPARE(spy.text(), QStringLiteral("320"));
-    }
-
     void publishesAValueOutsideItsLimitsUntilItIsRepaired()
     {
         const SnapshotSpy spy(parameter("Width"));
@@ -110,30 +83,6 @@ private Q_SLOTS:
         QCOMPARE(spy.count(), 2);
         QCOMPARE(spy.text(), QStringLiteral("16"));
         QVERIFY(parameter("Width")->isWritable());
-    }
-
-    void slowsDownEveryAccess()
-    {
-        m_collection->faults().setDelay(20);
-        QElapsedTimer timer;
-        timer.start();
-        parameter("Width")->refresh(true);
-        QVERIFY(timer.elapsed() >= 20);
-        write("Width", "320");
-        QVERIFY(timer.elapsed() >= 40);
-    }
-
-    void endsAllFaults()
-    {
-        Faults &faults = m_collection->faults();
-        const SnapshotSpy spy(parameter("Width"));
-        faults.failReads(cameraPath("OffsetX"), FaultKind::StdException);
-        faults.failWrites(cameraPath("Width"), FaultKind::StdException);
-        faults.publishOutsideLimits(cameraPath("Width"), 9999);
-        faults.clearAll();
-        QCOMPARE(spy.text(), QStringLiteral("640"));
-        write("Width", "320");
-        parameter("OffsetX")->refresh(true);
     }
 
     void staysSilentWhileUnplugged()

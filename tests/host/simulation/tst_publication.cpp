@@ -107,14 +107,6 @@ private Q_SLOTS:
         QCOMPARE(stranger.count(), 0);
     }
 
-    void publishesWhatHangsOnASelectedFeature()
-    {
-        const SnapshotSpy spy(parameter("InputFilter"));
-        write("LineSelector", "Line2");
-        QCOMPARE(spy.count(), 1);
-        QVERIFY(!spy.snapshot()->isWritable);
-    }
-
     void publishesTheAliasBeforeItsFloat_data()
     {
         QTest::addColumn<QString>("text");
@@ -133,20 +125,6 @@ private Q_SLOTS:
                     note);
         write(QTest::currentDataTag(), text);
         QCOMPARE(order, QStringList({QStringLiteral("1000"), QStringLiteral("10.000")}));
-    }
-
-    void publishesOneFinalSnapshotWhenAReceiverWrites()
-    {
-        const SnapshotSpy spy(parameter("OffsetX"));
-        const QObject receiver;
-        connect(parameter("Width").data(), &IParameter::parameterDataChangedDecoupled, &receiver,
-                [this] {
-                    if (memory("OffsetX") == 0)
-                        write("OffsetX", "8");
-                });
-        write("Width", "320");
-        QCOMPARE(spy.count(), 1);
-        QCOMPARE(spy.text(), QStringLiteral("8"));
     }
 
     void publishesTheOldValueAfterARefusedWrite_data()
@@ -205,31 +183,6 @@ private Q_SLOTS:
         QCOMPARE(spy.count(), 0);
         QTRY_COMPARE(spy.count(), 1);
         QCOMPARE(spy.snapshot(), data("Width"));
-    }
-
-    void keepsTheOrderWhenDeferred()
-    {
-        m_collection->setPublication(Publication::Deferred);
-        const SnapshotSpy spy(parameter("Width"));
-        write("Width", "320");
-        write("Width", "160");
-        m_collection->setPublication(Publication::Immediate);
-        write("Width", "80");
-        QTRY_COMPARE(spy.count(), 3);
-        QCOMPARE(spy.text(), QStringLiteral("80"));
-    }
-
-    void doesNotPublishUnaskedWhatIsNotImplemented()
-    {
-        const SnapshotSpy spy(parameter("Never"));
-        QVERIFY(!parameter("Never")->isImplemented());
-        QVERIFY(!data("Never")->isReadable && !data("Never")->isWritable);
-        m_collection->changeOnDevice(cameraPath("Never"), 1);
-        for (const char *action : {"invalidate", "batch", "poll"})
-            ask(action, "Never");
-        QCOMPARE(spy.count(), 0);
-        ask("refresh", "Never");
-        QCOMPARE(spy.count(), 1);
     }
 
     void tellsWhenACommandIsDone()

@@ -121,27 +121,6 @@ private Q_SLOTS:
         QCOMPARE(number->value(), value);
     }
 
-    void givesAliasesAConstantRange()
-    {
-        const auto alias = data<IntegerParameterData>("ExposureTime/Alias");
-        QCOMPARE(alias->minimum, 1);
-        QCOMPARE(alias->maximum, 1000000);
-        QCOMPARE(alias->increment, 1);
-        QCOMPARE(alias->representation, QStringLiteral("Logarithmic"));
-        // The float lies between two values of the companion.
-        QCOMPARE(alias->value, 5000);
-    }
-
-    void commandsRunByText()
-    {
-        write("Start", "1");
-        QVERIFY(!parameter("Width")->isWritable());
-        write("Stop", "0");
-        QCOMPARE(memory("TLParamsLocked"), QVariant(1LL));
-        write("Stop", "1");
-        QVERIFY(parameter("Width")->isWritable());
-    }
-
     void lockedCommandsDoNotRun()
     {
         parameter("Start")->node()->setProperty(QStringLiteral("AccessMode"), QStringLiteral("RO"));
@@ -205,16 +184,6 @@ private Q_SLOTS:
         execute("Reset");
         QTRY_VERIFY(!width.isEmpty() && width.text() == QLatin1String("640"));
         QTRY_VERIFY(isDone("Reset") && isDone("Slow"));
-    }
-
-    void commandsGoOnAfterUnplugging()
-    {
-        execute("Slow");
-        m_collection->unplug();
-        QVERIFY_EXCEPTION_THROWN(execute("Slow"), GenICam::GenericException);
-        m_collection->revive();
-        QTRY_VERIFY(isDone("Slow"));
-        QCOMPARE(memory("TLParamsLocked"), QVariant(1LL));
     }
 
 private:

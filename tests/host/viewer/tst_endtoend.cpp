@@ -9,14 +9,9 @@
 #include <host/simulation/parameters/faults.h>
 #include <host/viewer/visibilitylevel.h>
 
-#include <QAbstractSpinBox>
-#include <QCheckBox>
-#include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QProcess>
-#include <QScrollBar>
 #include <QSlider>
 #include <QSplitter>
 
@@ -87,18 +82,6 @@ private Q_SLOTS:
         QTRY_VERIFY(editor(feature));
         type(editor(feature), typed);
         QTRY_COMPARE(source(gige)->deviceValue(feature), expected);
-    }
-
-    void executesACommand()
-    {
-        click(QStringLiteral("Acquisition Control"));
-        QTRY_VERIFY(editor(path("AcquisitionStart")));
-        type(editor(path("AcquisitionStart")), QString());
-        // A camera that runs locks its image format.
-        QTRY_COMPARE(source(gige)->deviceValue(path("TLParamsLocked")), QVariant(1));
-        click(imageFormat);
-        QTRY_VERIFY(cell(path("Width")).isValid());
-        QTRY_VERIFY(!editor(path("Width")) || !editor(path("Width"))->isEnabled());
     }
 
     void refusedValueFallsBackToTheCamerasOwn()
@@ -199,30 +182,6 @@ private Q_SLOTS:
         QTRY_VERIFY(!line);
     }
 
-    // With the wheel of the pointer itself, which first gives the focus where it may.
-    void theWheelNeedsTheFocus()
-    {
-        const auto turn = [](const QWidget *widget, const char *button) {
-            const QPoint place = widget->mapToGlobal(widget->rect().center());
-            return QProcess::execute(QStringLiteral("xdotool"),
-                                     {QStringLiteral("mousemove"), QString::number(place.x()),
-                                      QString::number(place.y()), QStringLiteral("click"),
-                                      QLatin1String(button)});
-        };
-        click(QStringLiteral("Acquisition Control"));
-        const QString feature = path("ExposureTime");
-        const QVariant before = source(gige)->deviceValue(feature);
-        table()->setFocus();
-        const int scrolled = table()->verticalScrollBar()->value();
-        QCOMPARE(turn(editor(feature)->findChild<QAbstractSpinBox *>(), "5"), 0);
-        QTRY_VERIFY(table()->verticalScrollBar()->value() != scrolled);
-        QCOMPARE(source(gige)->deviceValue(feature), before);
-        auto *box = editor(feature)->findChild<QAbstractSpinBox *>();
-        box->setFocus();
-        QCOMPARE(turn(box, "4"), 0);
-        QTRY_VERIFY(source(gige)->deviceValue(feature) != before);
-    }
-
     void visibilityLevelHidesRows()
     {
         click(imageFormat);
@@ -233,20 +192,6 @@ private Q_SLOTS:
         QVERIFY(!cell(path("SensorWidth")).isValid());
         window()->visibilityLevel()->setLevel(2);
         QVERIFY(cell(path("SensorWidth")).isValid());
-    }
-
-    void copiesTheFeaturesAsText()
-    {
-        QGuiApplication::clipboard()->clear();
-        QTest::keyClick(window(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-        const QStringList lines = QGuiApplication::clipboard()->text().split(QLatin1Char('\n'));
-        QCOMPARE(lines.constFirst(), QStringLiteral("TO-5000G (305174)"));
-        QVERIFY(lines.size() > 250);
-        const QString width =
-            QStringLiteral("\t") + source(gige)->deviceValue(path("Width")).toString();
-        QVERIFY(std::any_of(lines.cbegin(), lines.cend(), [&width](const QString &line) {
-            return line.trimmed().startsWith(QLatin1String("Width ")) && line.endsWith(width);
-        }));
     }
 
     void findsWidthsAndListsAgain()

@@ -72,13 +72,6 @@ private Q_SLOTS:
         QVERIFY(picture.width() >= 1000 && picture.height() >= 600);
     }
 
-    void printsHelpWithoutAScreen()
-    {
-        const Result result = run("--help");
-        QCOMPARE(result.exitCode, 0);
-        QVERIFY(result.output.contains(QStringLiteral("--print-features")));
-    }
-
 private:
     struct Result
     {

@@ -19,7 +19,6 @@
 #include "host/framework/camerarecord.h"
 #include "host/framework/menuservice.h"
 #include "host/framework/parameterpool.h"
-#include "host/framework/sourcerecord.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -52,11 +51,6 @@ BaseInfoPtr camera(const QString &name, const char *deviceClass = "GEV")
         new Host::CameraRecord(name, QStringLiteral("Model"), QLatin1String(deviceClass)));
 }
 
-BaseInfoPtr source(const char *sourceCategory)
-{
-    return BaseInfoPtr(new Host::SourceRecord(QLatin1String(sourceCategory)));
-}
-
 } // namespace
 
 class tst_FeaturePane : public FeatureTest
@@ -64,19 +58,6 @@ class tst_FeaturePane : public FeatureTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void namesTrees()
-    {
-        using Plugin::Tessera::parameterTree;
-        const BaseInfoPtr usb = camera(QStringLiteral("Cam"), "U3V");
-        QCOMPARE(parameterTree(usb, device).rootName, QStringLiteral("Cam"));
-        QCOMPARE(parameterTree(usb, QStringLiteral("@StreamGrabber0")).rootName,
-                 QStringLiteral("Stream Parameters"));
-        QCOMPARE(parameterTree(source("Workbench"), QStringLiteral("@Blur")).rootName,
-                 QStringLiteral("qStep"));
-        QVERIFY(!parameterTree(usb, device).isUtf8);
-        QVERIFY(parameterTree(camera({}), device).isUtf8);
-    }
-
     void copiesAndRefreshesWhatIsShown()
     {
         m_control->requestFeatureTreeRefresh();

@@ -8,7 +8,6 @@
 #include "plugin/contract/appcore/menuservice.h"
 #include "plugin/contract/core/plugin.h"
 #include "plugin/contract/viewer/featuretreecontrolservice.h"
-#include "plugin/contract/viewer/featuretreestatusservice.h"
 #include "plugin/services/servicelookup.h"
 #include "support/settingsfolder.h"
 #include "support/warningguard.h"
@@ -20,12 +19,10 @@
 #include "host/framework/serviceregistry.h"
 
 #include <QAction>
-#include <QJsonObject>
 #include <QLabel>
 #include <QPluginLoader>
 #include <QPointer>
 #include <QSettings>
-#include <QSignalSpy>
 #include <QTest>
 
 #include <algorithm>
@@ -36,14 +33,13 @@
 using Core::CId;
 using Core::Logging::ELogLevel;
 using Plugin::FeatureTree::IFeatureTreeControlService;
-using Plugin::FeatureTree::IFeatureTreeStatusService;
 using Plugin::Tessera::findService;
 using Tests::Fault;
 
 namespace {
 
 const QString category = QStringLiteral("vantrel.viewer.plugins.tessera");
-constexpr int paneCount = 6;
+
 const QString missingService = QStringLiteral(
     "At least one service necessary for initializing the Tessera plugin is missing.");
 
@@ -119,14 +115,6 @@ private Q_SLOTS:
         m_guard.verify();
     }
 
-    void metadataNamesThePlugin()
-    {
-        QCOMPARE(m_loader.metaData()[QLatin1String("IID")].toString(),
-                 QStringLiteral(VANTREL_PLUGIN_IID));
-        const QJsonObject data = m_loader.metaData()[QLatin1String("MetaData")].toObject();
-        QCOMPARE(data[QLatin1String("Version")].toString(), QStringLiteral(TESSERA_VERSION));
-    }
-
     void typesOfSignalsAreRegistered()
     {
         for (const char *name :
@@ -136,27 +124,6 @@ private Q_SLOTS:
               "QSharedPointer<ParameterCollection::IParameter>"}) {
             QVERIFY2(QMetaType::type(name) != QMetaType::UnknownType, name);
         }
-    }
-
-    void docksAndTakesAwayThePanes()
-    {
-        QSettings().setValue(QStringLiteral("Tessera/UserTabName1"), QStringLiteral("R&D, x"));
-        QVERIFY(initialize());
-        QVERIFY(m_plugin->start());
-        QCOMPARE(m_windows->added,
-                 QStringLiteral("Tessera.Widget.All \"Features \u2013 All\" 3 1 0\n"
-                                "Tessera.Widget.Basic \"Features \u2013 Basic\" 3 1 0\n"
-                                "Tessera.Widget.User0 \"Features \u2013 \" 3 0 0\n"
-                                "Tessera.Widget.User1 \"Features \u2013 R&&D, x\" 3 0 0\n"
-                                "Tessera.Widget.User2 \"Features \u2013 \" 3 0 0\n"
-                                "Tessera.Widget.User3 \"Features \u2013 \" 3 0 0\n"));
-        QVERIFY(m_registry->lock()->tryLockForWrite());
-        m_registry->lock()->unlock();
-        delete m_windows->panes.value(QStringLiteral("Tessera.Widget.Basic")); // by the host
-        QVERIFY(m_plugin->uninitialize(m_registry));
-        QVERIFY(arePanesGone());
-        QCOMPARE(m_windows->removals, paneCount - 1);
-        QCOMPARE(m_menus->unregistered.count(QLatin1String(".menuItem ")), paneCount);
     }
 
     void needsItsServices()
@@ -210,21 +177,6 @@ private Q_SLOTS:
             QCOMPARE(QApplication::allWidgets().size(), widgets);
             QVERIFY(QSettings().contains(QStringLiteral("Tessera/UserTabName3")) || !starts);
         }
-    }
-
-    void tellsTheStatusOfItsPane()
-    {
-        QVERIFY(initialize());
-        QVERIFY(findService<IFeatureTreeControlService>(m_registry));
-        const auto status = findService<IFeatureTreeStatusService>(m_registry);
-        const QSignalSpy level(status.data(), &IFeatureTreeStatusService::visibilityChanged);
-        const QSignalSpy text(status.data(), &IFeatureTreeStatusService::newText);
-        QWidget *pane = qAsConst(m_windows->panes).first();
-        QMetaObject::invokeMethod(pane, "visibilityChanged",
-                                  Q_ARG(GenApi::EVisibility, GenApi::Expert));
-        QMetaObject::invokeMethod(pane, "newText", Q_ARG(QString, QStringLiteral("text")));
-        QCOMPARE(level.count(), 1);
-        QCOMPARE(text.count(), 1);
     }
 
     void keepsDisplayNamesOverARestart()

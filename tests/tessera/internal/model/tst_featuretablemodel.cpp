@@ -161,22 +161,6 @@ private Q_SLOTS:
         QCOMPARE(row("A", 1).data().toInt(), 5);
     }
 
-    void announcesSingleCells()
-    {
-        m_table->setItems(items("  A Integer 1\n  B Integer 2"), true);
-        QSignalSpy changes(m_proxy.get(), &QAbstractItemModel::dataChanged);
-        Tests::FakeNode &b = node("B");
-        b.number = 9;
-        b.publish();
-        QCOMPARE(changes.count(), 2);
-        for (int column : {0, 1}) {
-            const QModelIndex cell = m_proxy->index(1, column);
-            QCOMPARE(changes.at(column).at(0).toModelIndex(), cell);
-            QCOMPARE(changes.at(column).at(1).toModelIndex(), cell);
-        }
-        QCOMPARE(m_proxy->index(1, 1).data().toInt(), 9);
-    }
-
 private:
     void prepare() override
     {

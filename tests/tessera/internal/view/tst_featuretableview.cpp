@@ -190,17 +190,6 @@ private Q_SLOTS:
         QCOMPARE(node("B").writes, QStringList());
     }
 
-    void tabLeavesTheTable()
-    {
-        show(allKinds);
-        m_table->setCurrentIndex(value("Number"));
-        QTest::keyClick(m_table, Qt::Key_Tab);
-        QCOMPARE(QApplication::focusWidget(), m_next);
-        m_table->setFocus();
-        QTest::keyClick(m_table, Qt::Key_Backtab);
-        QCOMPARE(QApplication::focusWidget(), m_next);
-    }
-
     void editorsTravelWithADraggedRow()
     {
         show(QStringLiteral(

@@ -7,7 +7,6 @@
 #include "internal/view/featureoptionsmenu.h"
 #include "tessera/featuretest.h"
 
-#include <QAccessible>
 #include <QQuickView>
 #include <QSignalSpy>
 
@@ -95,26 +94,6 @@ private Q_SLOTS:
         QVERIFY(field(1)->hasActiveFocus());
     }
 
-    void walksAllControlsByKey()
-    {
-        cacheDisplayName(pathOf("Gain"), QStringLiteral("Analog Gain"));
-        show({pathOf("Gain"), QStringLiteral("@StreamGrabber0/Type/Deep")});
-        press(Qt::Key_X);
-        QString walked; // by the names that a screen reader tells
-        for (int i = 0; i < 12; ++i) {
-            press(Qt::Key_Tab);
-            auto *focused = QAccessible::queryAccessibleInterface(m_window->activeFocusItem());
-            walked += focused->text(QAccessible::Name) + QLatin1Char(',');
-        }
-        QCOMPARE(walked,
-                 QStringLiteral("Delete feature tab 1,Name of feature tab 2,Delete feature tab 2,"
-                                "Name of feature tab 3,Delete feature tab 3,Name of feature tab 4,"
-                                "Delete feature tab 4,Remove Analog Gain,Remove Deep,OK,Cancel,"
-                                "Name of feature tab 1,"));
-        QCOMPARE(m_menu->userTabNames().at(0), QStringLiteral("x"));
-        QCOMPARE(m_menu->userTabIndex(), 0);
-    }
-
     void confirmsOrCancels()
     {
         show();
@@ -133,27 +112,6 @@ private Q_SLOTS:
         click(m_menu->findChild<QQuickItem *>(QStringLiteral("addButton")));
         QCOMPARE(adds.size(), 1);
         QCOMPARE(cancels.size(), 3);
-    }
-
-    void showsTheFeaturesOfTheTab()
-    {
-        QQuickItem *view = find(m_menu, "scrollView");
-        show();
-        QVERIFY(!view->isVisible());
-        for (int i = 0; i < 60; ++i) {
-            m_menu->onAddFeature(0, QStringLiteral("Feature%1").arg(i));
-        }
-        QTRY_COMPARE(int(view->height()), int(m_menu->height()) / 8);
-        // By key the last one is reached, scrolled into view, and taken out.
-        for (int i = 0; i < 3; ++i) {
-            press(Qt::Key_Backtab);
-        }
-        QQuickItem *chip = find(view, "feature59");
-        QVERIFY(find(chip, "removeButton")->hasActiveFocus());
-        QVERIFY(view->boundingRect().contains(chip->mapRectToItem(view, chip->boundingRect())));
-        press(Qt::Key_Space);
-        QCOMPARE(m_menu->featureNameList(0).size(), 59);
-        QVERIFY(find(find(view, "feature58"), "removeButton")->hasActiveFocus());
     }
 
 private:

@@ -20,18 +20,6 @@ const QColor window(200, 210, 220);
 const QColor search(0xFF, 0xA7, 0x00);
 const QColor favorite(0xFF, 0xD8, 0x93);
 
-int count(const QImage &image, QRect part, const QColor &color)
-{
-    int pixels = 0;
-    const QRect inside = part & image.rect();
-    for (int y = inside.top(); y <= inside.bottom(); ++y) {
-        for (int x = inside.left(); x <= inside.right(); ++x) {
-            pixels += image.pixelColor(x, y) == color ? 1 : 0;
-        }
-    }
-    return pixels;
-}
-
 } // namespace
 
 class tst_FeatureNamePainter : public FeatureTest
@@ -82,16 +70,6 @@ private Q_SLOTS:
         }
         QCOMPARE(stretches, 3);
         QCOMPARE(image.pixelColor(m_rect.right() - 1, 0), window);
-    }
-
-    void endsAHitAtTheElision()
-    {
-        setRole(IsSearchMatchRole, true);
-        m_searchText = QStringLiteral("time");
-        m_rect.setWidth(90 * m_scale);
-        QCOMPARE(count(paint(), QRect(0, 0, 1000, 30), search), 0);
-        setRole(NoElideRole, true);
-        QVERIFY(count(paint(), QRect(0, 0, 1000, 30), search) > 0);
     }
 
     void movesDeepRowsToTheLeftEdge()

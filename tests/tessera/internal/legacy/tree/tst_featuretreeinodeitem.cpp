@@ -23,34 +23,6 @@ class tst_FeatureTreeINodeItem : public FeatureTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void showsTheValueOrWhyThereIsNone_data()
-    {
-        QTest::addColumn<QVariant>("shown");
-        QTest::addColumn<QVariant>("edited");
-        QTest::addColumn<int>("access");
-        QTest::addColumn<int>("flags");
-        QTest::addColumn<bool>("grey");
-        const auto text = [](const char *shown) { return QVariant(QString::fromLatin1(shown)); };
-        const QVariant none;
-        QTest::newRow("String hi") << text("hi") << text("hi") << 4 << 34 << false;
-        QTest::newRow("String hi ro") << text("hi") << text("hi") << 3 << 32 << true;
-        QTest::newRow("Float 1.5") << none << text("1.5") << 4 << 34 << false; // in its editor
-        QTest::newRow("String hi ni") << text("<not implemented>") << none << 0 << 32 << true;
-        QTest::newRow("String hi na") << text("<not available>") << none << 1 << 32 << true;
-        QTest::newRow("String hi wo") << text("<not readable>") << none << 2 << 34 << false;
-        QTest::newRow("") << text("") << none << 3 << 32 << false;
-    }
-
-    void showsTheValueOrWhyThereIsNone()
-    {
-        const auto feature = describe(QString::fromLatin1(QTest::currentDataTag()));
-        QTEST(feature->data(1, Qt::DisplayRole), "shown");
-        QTEST(feature->data(1, Qt::EditRole), "edited");
-        QTEST(feature->accessMode(), "access");
-        QTEST(int(feature->flags(1)), "flags");
-        QTEST(feature->foreground().isValid(), "grey");
-    }
-
     void keepsDefaultsWhenPropertiesFail()
     {
         attach(QStringLiteral("F Integer 1 name=Eff rep=Linear"));
@@ -61,17 +33,6 @@ private Q_SLOTS:
         feature->subscribe();
         expectFault("nodeItem", QStringLiteral("Failed to refresh @CameraDevice/F: "));
         feature->requestRefresh();
-    }
-
-    void knowsWhenItIsVisible()
-    {
-        const auto feature = describe(QStringLiteral("String x expert"));
-        QVERIFY(!feature->isVisibleAt(0) && feature->isVisibleAt(1));
-        node().visibility = 0;
-        node().isImplemented = false; // what was there once does not vanish from the list
-        node().publish();
-        QVERIFY(feature->isVisibleAt(0));
-        QVERIFY(!item("F")->isVisibleAt(2));
     }
 
     void readsItsValueWhileItIsSubscribed()
@@ -95,60 +56,6 @@ private Q_SLOTS:
         QVERIFY(node().isSubscribed());
         feature->unsubscribe();
         QVERIFY(!node().isSubscribed());
-    }
-
-    void displayNamesAreKeptInTheSettings()
-    {
-        const Tests::SettingsFolder folder;
-        const QString key = QStringLiteral("Tessera/DisplayNameCache");
-        QSettings().setValue(key, QStringLiteral("r1:b;c;d:e:f;g:h;r2:x;r2:y;"));
-        loadDisplayNameCache();
-        QString names;
-        for (const char *name : {"r1", "c", "d", "g", "r2", "r3"}) {
-            names += cachedDisplayName(QString::fromLatin1(name)) + QLatin1Char(',');
-        }
-        QCOMPARE(names, QStringLiteral("b,,,h,y,,"));
-        cacheDisplayName(QStringLiteral("z2"), QStringLiteral("%1 last"));
-        cacheDisplayName(QStringLiteral("z2"), QStringLiteral("later")); // the first one stays
-        cacheDisplayName(QStringLiteral("z1"), QStringLiteral("50 %2"));
-        cacheDisplayName(QStringLiteral("z3"), QStringLiteral("a:b")); // would not come back
-        saveDisplayNameCache();
-        QVERIFY(QSettings().value(key).toString().endsWith(QLatin1String("z1:50 %2;z2:%1 last;")));
-    }
-
-    void writesByKind_data()
-    {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<bool>("isUtf8");
-        QTest::addColumn<QString>("written");
-        const QVariant text = QStringLiteral("\u00fc").append(QChar()).append(QChar(0x65e5));
-        QTest::newRow("integer") << "Integer 1" << QVariant(QStringLiteral("7")) << true << "7";
-        QTest::newRow("float") << "Float 1" << QVariant(2.25) << true << "2.25";
-        QTest::newRow("switch") << "Boolean 0" << QVariant(QStringLiteral("1")) << true << "1";
-        QTest::newRow("UTF-8") << "String hi" << text << true << QStringLiteral("\u00c3\u00bc");
-        QTest::newRow("Latin-1") << "String hi" << text << false << QStringLiteral("\u00fc");
-        QTest::newRow("command") << "Command" << QVariant(true) << true << "";
-    }
-
-    void writesByKind()
-    {
-        QFETCH(QString, line);
-        QFETCH(QVariant, value);
-        QFETCH(bool, isUtf8);
-        const auto feature = describe(line, isUtf8);
-        node().isWritable = false;
-        feature->setData(1, value, Qt::EditRole);
-        node().isWritable = true;
-        feature->setData(0, value, Qt::EditRole);
-        feature->setData(1, value, Qt::DisplayRole);
-        QVERIFY(node().writes.isEmpty());
-        feature->setData(1, value, Qt::EditRole);
-        QTEST(node().writes.value(0), "written");
-        QCOMPARE(node().refreshes, 1 + node().executions);
-        QCOMPARE(node().writes.size() + node().executions, 1);
-        node().onWrite = Fault::Standard;
-        QVERIFY_EXCEPTION_THROWN(feature->setData(1, value, Qt::EditRole), std::exception);
     }
 
     void dropsSnapshotsThatAreNotForIt()

@@ -9,8 +9,6 @@
 #include "support/treetext.h"
 #include "tessera/featuretest.h"
 
-#include <QSignalSpy>
-
 #include <memory>
 
 using Tests::Fault;
@@ -22,35 +20,6 @@ class tst_FeatureTreeModel : public FeatureTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void listsCategoriesOrTheWholeTree()
-    {
-        add();
-        // Two levels of categories; what is below joins the second one, deepest first.
-        const QString flat = QStringLiteral("Camera\n"
-                                            "  Image\n"
-                                            "    Deepest: <not available>\n"
-                                            "    OffsetX: <not available>\n"
-                                            "    Width: <not available>\n"
-                                            "    Height: <not available>\n"
-                                            "  Gain [dB]: <not available>\n"
-                                            "  Shy: <not available>\n");
-        QCOMPARE(treeText(*m_model), flat);
-        m_model->setShowTreeView(true);
-        QCOMPARE(treeText(*m_model),
-                 QStringLiteral("Camera\n"
-                                "  Image\n"
-                                "    Width: <not available>\n"
-                                "    Offsets\n"
-                                "      OffsetX: <not available>\n"
-                                "      Deep\n"
-                                "        Deepest: <not available>\n"
-                                "    Height: <not available>\n"
-                                "  Gain [dB]: <not available>\n"
-                                "  Shy: <not available>\n"));
-        m_model->setShowTreeView(false);
-        QCOMPARE(treeText(*m_model), flat);
-    }
-
     void survivesACategoryThatHoldsItself()
     {
         node("Deep").children.append(pathOf("Image"));
@@ -97,21 +66,6 @@ private Q_SLOTS:
         QTRY_COMPARE(value.data().toString(), width);
     }
 
-    void announcesAnUpdateForTheNameAlone()
-    {
-        add();
-        read("Height");
-        QSignalSpy changed(m_model.get(), &QAbstractItemModel::dataChanged);
-        node("Height").number = 500.0;
-        node("Height").publish();
-        QTRY_COMPARE(changed.count(), 1);
-        QCOMPARE(changed.value(0).value(0).toModelIndex(), row("Height"));
-        QCOMPARE(changed.value(0).value(1).toModelIndex(), row("Height"));
-        QCOMPARE(row("Height", 1).data().toString(), QStringLiteral("500"));
-        m_model->refreshAll();
-        QCOMPARE(changed.count(), 9); // and each loaded row of three levels
-    }
-
     void polls()
     {
         add();
@@ -139,27 +93,6 @@ private Q_SLOTS:
         m_collection->onUpdate = Fault::None;
         m_model->setActive(false);
         QVERIFY(!fire());
-    }
-
-    void marksMatchesAndTheCategoriesAbove()
-    {
-        add();
-        const auto marked = [this](int role) {
-            QString names;
-            for (const char *name : {"Camera", "Image", "OffsetX", "Width", "Shy"}) {
-                names += item(name)->data(0, role).toBool() ? QString::fromLatin1(name) : QString();
-            }
-            return names;
-        };
-        m_model->markSearchMatches(QStringLiteral("Height"));
-        m_model->markSearchMatches(QStringLiteral(" offsetx "));
-        QCOMPARE(marked(IsSearchMatchRole), QStringLiteral("CameraImageOffsetX"));
-        for (const char *search : {"Shy", "  "}) { // the first is invisible
-            m_model->markSearchMatches(QString::fromLatin1(search));
-            QCOMPARE(marked(IsSearchMatchRole), QString());
-        }
-        m_model->markFavorites({QStringLiteral("@cameradevice/WIDTH")});
-        QCOMPARE(marked(IsFavoriteMatchRole), QStringLiteral("CameraImageWidth"));
     }
 
 private:

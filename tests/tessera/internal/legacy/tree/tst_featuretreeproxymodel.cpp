@@ -12,68 +12,11 @@
 
 using Tests::treeText;
 
-namespace {
-
-const char *const camera = "Image\n"
-                           "  Width Integer 640\n"
-                           "  Tiles Integer 1 expert\n"
-                           "Timing expert\n"
-                           "  Exposure Float 1\n"
-                           "Registers expert\n"
-                           "  Address Integer 1 guru\n"
-                           "Gone ni\n"
-                           "  Present Integer 1\n"
-                           "Lost ni\n"
-                           "  Missing Integer 1 ni\n"
-                           "Empty\n";
-
-QStringList list(const char *names)
-{
-    return QString::fromLatin1(names).split(QLatin1Char(','));
-}
-
-} // namespace
-
 class tst_FeatureTreeProxyModel : public FeatureTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void keepsCategoriesThatHoldAShownFeature_data()
-    {
-        QTest::addColumn<int>("level");
-        QTest::addColumn<QStringList>("names");
-        QTest::addColumn<bool>("showUnavailable");
-        QTest::addColumn<QStringList>("categories");
-        const QStringList all = list("Image,Timing,Registers,Gone,Lost,Empty");
-        const QStringList none;
-        QTest::newRow("beginner") << 0 << none << false << list("Image,Timing,Gone,Empty");
-        QTest::newRow("expert") << 1 << none << false << list("Image,Timing,Registers,Gone,Empty");
-        QTest::newRow("invisible shows all") << 3 << none << false << all;
-        QTest::newRow("unavailable ones too") << 0 << none << true << all;
-        QTest::newRow("by name, in any case")
-            << 2 << list("@cameradevice/WIDTH") << false << list("Image");
-        QTest::newRow("name above the level") << 0 << list("@CameraDevice/Tiles") << false << none;
-    }
-
-    void keepsCategoriesThatHoldAShownFeature()
-    {
-        QFETCH(int, level);
-        QFETCH(QStringList, names);
-        QFETCH(bool, showUnavailable);
-        QFETCH(QStringList, categories);
-        add(camera);
-        m_proxy->setVisibility(level);
-        m_proxy->setShowUnavailable(showUnavailable);
-        m_proxy->setFeatureNameFilter(names);
-        QString expected;
-        if (!categories.isEmpty()) {
-            categories.prepend(QStringLiteral("Camera"));
-            expected = categories.join(QLatin1String("\n  ")) + QLatin1Char('\n');
-        }
-        QCOMPARE(treeText(*m_proxy).remove(QStringLiteral(": <not implemented>")), expected);
-    }
-
     void pollsWhatTheNameFilterShows()
     {
         add("Image\n  Width Integer 1\n  Height Integer 1");

@@ -10,7 +10,6 @@
 #include "support/treetext.h"
 #include "tessera/featuretest.h"
 
-#include <QApplication>
 #include <QSignalSpy>
 
 #include <memory>
@@ -83,20 +82,6 @@ private Q_SLOTS:
         receive("Mode");
         QVERIFY(editor("Mode") && !editor("Mode")->isEnabled());
         QVERIFY(node("Mode").writes.isEmpty());
-    }
-
-    void opensEditorsOfRowsThatComeBack()
-    {
-        showFeatures("Mode Enum A entries=A,B");
-        receive("Mode");
-        m_view->closePersistentEditor(value("Mode"));
-        Q_EMIT m_features->layoutChanged();
-        QVERIFY(editor("Mode"));
-        m_view->closePersistentEditor(value("Mode"));
-        auto *top = qobject_cast<FeatureTreeINodeItem *>(
-            m_features->itemFromIndex(m_features->index(0, 0)));
-        m_features->loadChildren(top, top->parameter());
-        QVERIFY(editor("Mode"));
     }
 
     void saysWhenThereIsNothingToShow()
