@@ -32,18 +32,6 @@ private Q_SLOTS:
         QCOMPARE(m_guard.finish(), faults);
     }
 
-    void takesWhatWasAnnounced()
-    {
-        m_guard.expectQtWarning(QRegularExpression(QStringLiteral("^careful")));
-        m_guard.expectLogEntry(ELogLevel::Fault, QStringLiteral("test"), QStringLiteral("a.b"));
-        m_guard.expectLogEntry(ELogLevel::Information, QStringLiteral("test"),
-                               QRegularExpression(QStringLiteral("line \\d+")));
-        createLogEntry(ELogLevel::Information, getCatId("test"), QStringLiteral("at line 12"));
-        createLogEntry(ELogLevel::Fault, getCatId("test"), QStringLiteral("a.b"));
-        qWarning("careful now");
-        QCOMPARE(m_guard.finish(), QStringList());
-    }
-
     void findsWhatDidNotComeOrCameTwice()
     {
         m_guard.expectQtWarning(QRegularExpression(QStringLiteral("^careful")));

@@ -18,23 +18,6 @@ class TestPublication : public DeviceTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void refreshPublishesAlwaysOnlyWhenForced()
-    {
-        QCOMPARE(data("Width")->valueText, QStringLiteral("640"));
-        const SnapshotSpy spy(parameter("Width"));
-        parameter("Width")->refresh(false);
-        QCOMPARE(spy.count(), 0);
-        parameter("Width")->refresh(true);
-        parameter("Width")->refresh(true);
-        QCOMPARE(spy.count(), 2);
-        m_collection->changeOnDevice(cameraPath("Width"), 320);
-        parameter("Width")->refresh(false);
-        QCOMPARE(spy.count(), 3);
-        QCOMPARE(spy.text(), QStringLiteral("320"));
-        QCOMPARE(spy.snapshot(), data("Width"));
-        QCOMPARE(m_collection->counters().of(cameraPath("Width")).refreshes, 4);
-    }
-
     void seesAnUnreportedChangeWhenAsked_data()
     {
         QTest::addColumn<int>("publications");
@@ -77,20 +60,6 @@ private Q_SLOTS:
         QVERIFY(!parameter("Width")->isWritable());
         // The device's thread may have looked once while the changes were under way.
         QVERIFY(spy.count() <= 4);
-    }
-
-    void publishesNothingThatNobodyListensTo()
-    {
-        data("OffsetX");
-        parameter("Width")->refresh(true);
-        write("Width", "320");
-        m_collection->endBatchUpdate();
-        QCOMPARE(m_collection->counters().total().publications, 0);
-        QCOMPARE(m_collection->counters().of(cameraPath("OffsetX")).reads, 1);
-        const SnapshotSpy spy(parameter("Width"));
-        QCOMPARE(m_collection->counters().of(cameraPath("Width")).subscriptions, 1);
-        parameter("Width")->refresh(true);
-        QCOMPARE(m_collection->counters().of(cameraPath("Width")).publications, 1);
     }
 
     void publishesAWriteAndItsDependantsBeforeItReturns()
@@ -161,28 +130,6 @@ private Q_SLOTS:
         QCOMPARE(memory(name), before);
         QCOMPARE(spy.count(), 1);
         QCOMPARE(spy.text(), shown);
-    }
-
-    void defersEveryPublication_data()
-    {
-        QTest::addColumn<bool>("isRefused");
-        for (const char *action : {"write", "refresh", "invalidate"})
-            QTest::newRow(action) << false;
-        QTest::newRow("refused write") << true;
-    }
-
-    void defersEveryPublication()
-    {
-        QFETCH(const bool, isRefused);
-        m_collection->setPublication(Publication::Deferred);
-        const SnapshotSpy spy(parameter("Width"));
-        if (isRefused)
-            QVERIFY_EXCEPTION_THROWN(write("Width", ""), GenICam::GenericException);
-        else
-            ask(QTest::currentDataTag(), "Width");
-        QCOMPARE(spy.count(), 0);
-        QTRY_COMPARE(spy.count(), 1);
-        QCOMPARE(spy.snapshot(), data("Width"));
     }
 
     void tellsWhenACommandIsDone()

@@ -75,14 +75,6 @@ private Q_SLOTS:
                  QStringLiteral("100"));
     }
 
-    void describesCategoriesWithoutAskingTheDevice()
-    {
-        const QString category = cameraPath("ImageFormatControl");
-        m_collection->faults().failReads(category, FaultKind::GenericException);
-        QCOMPARE(access(*data("ImageFormatControl")), QStringLiteral("RO"));
-        QCOMPARE(m_collection->counters().total().reads, 0);
-    }
-
     void givesNullObjects()
     {
         m_collection->faults().setNullObject(cameraPath("Unheard"), true);

@@ -50,40 +50,6 @@ private Q_SLOTS:
         ViewerTest::cleanup();
     }
 
-    void writesWhatIsTyped_data()
-    {
-        QTest::addColumn<QString>("category");
-        QTest::addColumn<QString>("feature");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QVariant>("expected");
-        const auto row = [](const char *tag, const char *category, const char *feature,
-                            const char *typed, const QVariant &expected) {
-            QTest::newRow(tag) << QString::fromLatin1(category) << path(feature)
-                               << QString::fromLatin1(typed) << expected;
-        };
-        row("integer", "Image Format Control", "Width", "640", 640);
-        row("integer by slider", "Image Format Control", "Width", "<", 16);
-        row("hexadecimal", "Action Control", "ActionGroupKey", "0x1F", 31);
-        row("address", "Transport Layer Control", "GevPersistentIPAddress", "10.0.0.7", 0x0A000007);
-        row("float", "Acquisition Control", "ExposureTime", "1234", 1234.0);
-        row("float by slider", "Analog Control", "BalanceRatio", "<", 0.0);
-        row("boolean", "Image Format Control", "ReverseX", "", true);
-        row("enumeration", "Acquisition Control", "TriggerMode", "On", QStringLiteral("On"));
-        row("string", "Device Control", "DeviceUserID", "Halle 7", QByteArray("Halle 7"));
-    }
-
-    void writesWhatIsTyped()
-    {
-        QFETCH(QString, category);
-        QFETCH(QString, feature);
-        QFETCH(QString, typed);
-        QFETCH(QVariant, expected);
-        click(category);
-        QTRY_VERIFY(editor(feature));
-        type(editor(feature), typed);
-        QTRY_COMPARE(source(gige)->deviceValue(feature), expected);
-    }
-
     void refusedValueFallsBackToTheCamerasOwn()
     {
         const QString feature = path("DeviceUserID");
@@ -100,14 +66,6 @@ private Q_SLOTS:
         type(editor(feature), QStringLiteral("refused"));
         QTRY_COMPARE(reports, QStringList(QStringLiteral("Failed to set a feature value.")));
         QTRY_COMPARE(valueOnScreen(feature), before);
-    }
-
-    void showsWhatChangesInTheCamera()
-    {
-        const QString feature = path("DeviceUserID");
-        click(QStringLiteral("Device Control"));
-        source(gige)->changeOnDevice(feature, QByteArray("new name"));
-        QTRY_COMPARE(valueOnScreen(feature), QStringLiteral("new name"));
     }
 
     void keepsSourcesApart()

@@ -103,17 +103,6 @@ private Q_SLOTS:
         }
     }
 
-    void opensEditorsOfRowsThatComeBack()
-    {
-        show(QStringLiteral("A Integer 1 rep=Linear\nB Integer 2 rep=Linear"));
-        m_table->proxy().setFeatureNameFilter({pathOf("A")});
-        QCOMPARE(m_table->proxy().rowCount(), 1);
-        m_table->proxy().setFeatureNameFilter({});
-        QVERIFY(editor("B"));
-        m_table->proxy().invalidate();
-        QVERIFY(editor("A") && editor("B"));
-    }
-
     void keysEnterAnEditorAndEscapeLeavesIt_data()
     {
         QTest::addColumn<Qt::Key>("key");

@@ -76,24 +76,6 @@ private Q_SLOTS:
         QCOMPARE(m_menu->userTabIndex(), 2);
     }
 
-    void namesATabAndSelectsAnother()
-    {
-        show();
-        press(Qt::Key_A);
-        QVERIFY(m_menu->userTabNames().at(0).isEmpty());
-        click(row(2));
-        QCOMPARE(m_menu->userTabIndex(), 2);
-        QCOMPARE(m_menu->userTabNames().at(0), QStringLiteral("a"));
-        QVERIFY(field(2)->hasActiveFocus());
-        press(Qt::Key_C);
-        press(Qt::Key_Return);
-        QCOMPARE(m_menu->userTabNames().at(2), QStringLiteral("c"));
-        QCOMPARE(m_menu->userTabIndex(), 2);
-        press(Qt::Key_Up);
-        QCOMPARE(m_menu->userTabIndex(), 1);
-        QVERIFY(field(1)->hasActiveFocus());
-    }
-
     void confirmsOrCancels()
     {
         show();

@@ -19,7 +19,6 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QPointer>
 #include <QSignalSpy>
 
 #include <memory>
@@ -160,22 +159,6 @@ private Q_SLOTS:
         QVERIFY(publish() + publish() > 0);
     }
 
-    void tellsTheCurrentParameter()
-    {
-        add();
-        QSignalSpy current(
-            m_browser.get(),
-            qOverload<QSharedPointer<IParameter>>(&FeatureTreeWidget::onCurrentChanged));
-        select("Other");
-        table()->setCurrentIndex(tableRow("Far"));
-        QCOMPARE(current.takeLast().value(0).value<QSharedPointer<IParameter>>()->fullName(),
-                 pathOf("Far"));
-        current.clear();
-        widget<QLineEdit>("filterEdit")->setFocus();
-        table()->setCurrentIndex(tableRow("Near"));
-        QCOMPARE(current.count(), 0);
-    }
-
     void marksWhatIsSearched()
     {
         add();
@@ -307,24 +290,6 @@ private Q_SLOTS:
         QVERIFY(shown().startsWith(QLatin1String("Lost ")));
         m_browser->setFeatureNameList({name("Far"), name("Width"), name("Far")});
         QCOMPARE(shown(), QStringLiteral("Far Width Far "));
-    }
-
-    void dropsOpenEditorsWhenCleared()
-    {
-        add();
-        select("Image Format");
-        const QPointer<QWidget> editor = table()->indexWidget(tableRow("Gain [dB]", 1));
-        QVERIFY(editor);
-        QTest::keyClicks(editor->findChild<QLineEdit *>(), QStringLiteral("8"));
-        node("Width").isNull = true; // unplugged
-        m_browser->clear();
-        QCOMPARE(shown(), QString());
-        QVERIFY(!m_browser->currentItem());
-        QVERIFY(!node("Width").isSubscribed());
-        node("Width").isNull = false;
-        m_browser.reset();
-        QVERIFY(!editor);
-        QVERIFY(node("Width").writes.isEmpty());
     }
 
 private:

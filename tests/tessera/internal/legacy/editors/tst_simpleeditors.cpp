@@ -16,7 +16,6 @@
 
 #include <QAbstractItemView>
 #include <QSignalSpy>
-#include <QSlider>
 
 #include <limits>
 #include <memory>
@@ -223,27 +222,6 @@ private Q_SLOTS:
         QTest::keyClick(box, Qt::Key_PageUp);
         QTest::keyClick(box, Qt::Key_Down);
         QCOMPARE(slider.value(), 899);
-    }
-
-    void sliderIgnoresAnswersToEarlierMoves()
-    {
-        IntSliderEditor editor(nullptr);
-        editor.updateEditor(pair("Int", integerSnapshot(0, 0, 100)));
-        Tests::FakeNode &device = node("Int");
-        for (const int position : {20, 40, 60}) {
-            editor.findChild<QSlider *>()->setValue(position);
-            device.number = position;
-        }
-        for (const int answer : {20, 40, 60}) {
-            editor.updateEditor(pair("Int", integerSnapshot(answer, 0, 100)));
-            QCOMPARE(editor.value(), 60);
-        }
-        device.number = 30; // on its own
-        editor.updateEditor(pair("Int", integerSnapshot(30, 0, 100)));
-        QCOMPARE(editor.value(), 30);
-        editor.findChild<QSlider *>()->setValue(80); // and the device keeps 30
-        editor.updateEditor(pair("Int", integerSnapshot(30, 0, 100)));
-        QCOMPARE(editor.value(), 30);
     }
 };
 

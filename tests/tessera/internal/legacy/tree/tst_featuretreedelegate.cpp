@@ -105,16 +105,6 @@ private Q_SLOTS:
         QTRY_VERIFY(!editor);
     }
 
-    void describesEditorsToScreenReaders()
-    {
-        add(QStringLiteral("F Enum A entries=A,B tip=Says_something"));
-        const std::unique_ptr<QWidget> editor(
-            m_delegate->createEditor(m_view->viewport(), QStyleOptionViewItem(), index()));
-        QCOMPARE(editor->accessibleName(), QStringLiteral("F"));
-        QVERIFY(editor->accessibleDescription().endsWith(QLatin1String("Says something")));
-        QVERIFY(!editor->accessibleDescription().contains(QLatin1Char('<')));
-    }
-
 private:
     void prepare() override
     {
