@@ -8,6 +8,7 @@
 #include "plugin/contract/appcore/menuservice.h"
 #include "plugin/contract/core/plugin.h"
 #include "plugin/contract/viewer/featuretreecontrolservice.h"
+#include "plugin/contract/viewer/featuretreestatusservice.h"
 #include "plugin/services/servicelookup.h"
 #include "support/settingsfolder.h"
 #include "support/warningguard.h"
@@ -23,6 +24,7 @@
 #include <QPluginLoader>
 #include <QPointer>
 #include <QSettings>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <algorithm>
@@ -33,6 +35,7 @@
 using Core::CId;
 using Core::Logging::ELogLevel;
 using Plugin::FeatureTree::IFeatureTreeControlService;
+using Plugin::FeatureTree::IFeatureTreeStatusService;
 using Plugin::Tessera::findService;
 using Tests::Fault;
 
@@ -177,6 +180,21 @@ private Q_SLOTS:
             QCOMPARE(QApplication::allWidgets().size(), widgets);
             QVERIFY(QSettings().contains(QStringLiteral("Tessera/UserTabName3")) || !starts);
         }
+    }
+
+    void tellsTheStatusOfItsPane()
+    {
+        QVERIFY(initialize());
+        QVERIFY(findService<IFeatureTreeControlService>(m_registry));
+        const auto status = findService<IFeatureTreeStatusService>(m_registry);
+        const QSignalSpy level(status.data(), &IFeatureTreeStatusService::visibilityChanged);
+        const QSignalSpy text(status.data(), &IFeatureTreeStatusService::newText);
+        QWidget *pane = qAsConst(m_windows->panes).first();
+        QMetaObject::invokeMethod(pane, "visibilityChanged",
+                                  Q_ARG(GenApi::EVisibility, GenApi::Expert));
+        QMetaObject::invokeMethod(pane, "newText", Q_ARG(QString, QStringLiteral("text")));
+        QCOMPARE(level.count(), 1);
+        QCOMPARE(text.count(), 1);
     }
 
     void keepsDisplayNamesOverARestart()
