@@ -33,6 +33,12 @@ private Q_SLOTS:
         QCOMPARE(window.rendererInterface()->graphicsApi(), QSGRendererInterface::Software);
     }
 
+    void fontsHaveWholePixels()
+    {
+        QCOMPARE(CStyleHelper::computePixelFontSize(12), 16); // at 96 dpi
+        QCOMPARE(CStyleHelper::computePixelFontSize(11), 15); // rounded up
+    }
+
     void resourcesAreThere()
     {
         const QString folder = QStringLiteral(":/vantrelviewercomponents/Resources/");

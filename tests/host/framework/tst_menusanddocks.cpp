@@ -15,6 +15,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QTest>
 
 #include <memory>
@@ -95,6 +96,21 @@ private Q_SLOTS:
         QCOMPARE(m_notes.join(QLatin1Char(' ')), QStringLiteral("0 1 2"));
     }
 
+    void entryIsHiddenWithoutActions()
+    {
+        auto action = std::make_unique<QAction>();
+        const QAction *entry = add(action.get())->proxy();
+        m_menus->unregisterAction(nullptr, CId("test"));
+        m_menus->unregisterAction(nullptr, CId("test.unknown"));
+        QVERIFY(entry->isVisible());
+        m_menus->unregisterAction(action.get(), CId("test"));
+        QVERIFY(!entry->isVisible());
+        QCOMPARE(add(action.get())->proxy(), entry);
+        QVERIFY(entry->isVisible());
+        action.reset();
+        QVERIFY(!entry->isVisible());
+    }
+
     void groupsStandInTheirOrderWithSeparators_data()
     {
         QTest::addColumn<QString>("menu"); // the tag: "group:command ..."
@@ -117,6 +133,26 @@ private Q_SLOTS:
             m_container->addAction(add(action, parts.at(1)), CId(parts.at(0).constData()));
         }
         QTEST(windowMenu(), "menu");
+    }
+
+    void containersOutliveTheirMenu()
+    {
+        QAction action;
+        m_window.reset();
+        QCOMPARE(m_container->menu(), nullptr);
+        m_container->addAction(add(&action), CId("g"));
+    }
+
+    void deletesActionsWithoutParentWhenItEnds()
+    {
+        const QPointer<QAction> orphan(new QAction);
+        const QPointer<QAction> owned(new QAction(m_window.get()));
+        add(orphan);
+        add(orphan, "test.again");
+        add(owned);
+        m_docks.reset();
+        m_menus.reset();
+        QVERIFY(orphan.isNull() && !owned.isNull());
     }
 
     void docksAsToldOrAsWishedBefore_data()

@@ -5,6 +5,7 @@
 
 #include "plugin/contract/core/baseexception.h"
 #include "plugin/contract/parametercollection/integerparameter.h"
+#include "plugin/contract/parametercollection/integerparameterdata.h"
 
 #include <stdexcept>
 
@@ -69,6 +70,19 @@ private Q_SLOTS:
         m_collection->faults().clear(width);
         write("Width", "320");
         QCOMPARE(spy.text(), QStringLiteral("320"));
+    }
+
+    void publishesAValueOutsideItsLimitsUntilItIsRepaired()
+    {
+        const SnapshotSpy spy(parameter("Width"));
+        m_collection->faults().publishOutsideLimits(cameraPath("Width"), 4);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(spy.snapshot().dynamicCast<const IntegerParameterData>()->value, 4);
+        QVERIFY(spy.snapshot()->isWritable);
+        write("Width", "16");
+        QCOMPARE(spy.count(), 2);
+        QCOMPARE(spy.text(), QStringLiteral("16"));
+        QVERIFY(parameter("Width")->isWritable());
     }
 
     void staysSilentWhileUnplugged()

@@ -18,6 +18,23 @@ class TestPublication : public DeviceTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void refreshPublishesAlwaysOnlyWhenForced()
+    {
+        QCOMPARE(data("Width")->valueText, QStringLiteral("640"));
+        const SnapshotSpy spy(parameter("Width"));
+        parameter("Width")->refresh(false);
+        QCOMPARE(spy.count(), 0);
+        parameter("Width")->refresh(true);
+        parameter("Width")->refresh(true);
+        QCOMPARE(spy.count(), 2);
+        m_collection->changeOnDevice(cameraPath("Width"), 320);
+        parameter("Width")->refresh(false);
+        QCOMPARE(spy.count(), 3);
+        QCOMPARE(spy.text(), QStringLiteral("320"));
+        QCOMPARE(spy.snapshot(), data("Width"));
+        QCOMPARE(m_collection->counters().of(cameraPath("Width")).refreshes, 4);
+    }
+
     void seesAnUnreportedChangeWhenAsked_data()
     {
         QTest::addColumn<int>("publications");
@@ -96,6 +113,20 @@ private Q_SLOTS:
         QCOMPARE(order, QStringList({QStringLiteral("1000"), QStringLiteral("10.000")}));
     }
 
+    void publishesOneFinalSnapshotWhenAReceiverWrites()
+    {
+        const SnapshotSpy spy(parameter("OffsetX"));
+        const QObject receiver;
+        connect(parameter("Width").data(), &IParameter::parameterDataChangedDecoupled, &receiver,
+                [this] {
+                    if (memory("OffsetX") == 0)
+                        write("OffsetX", "8");
+                });
+        write("Width", "320");
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(spy.text(), QStringLiteral("8"));
+    }
+
     void publishesTheOldValueAfterARefusedWrite_data()
     {
         QTest::addColumn<QByteArray>("name");
@@ -130,6 +161,41 @@ private Q_SLOTS:
         QCOMPARE(memory(name), before);
         QCOMPARE(spy.count(), 1);
         QCOMPARE(spy.text(), shown);
+    }
+
+    void defersEveryPublication_data()
+    {
+        QTest::addColumn<bool>("isRefused");
+        for (const char *action : {"write", "refresh", "invalidate"})
+            QTest::newRow(action) << false;
+        QTest::newRow("refused write") << true;
+    }
+
+    void defersEveryPublication()
+    {
+        QFETCH(const bool, isRefused);
+        m_collection->setPublication(Publication::Deferred);
+        const SnapshotSpy spy(parameter("Width"));
+        if (isRefused)
+            QVERIFY_EXCEPTION_THROWN(write("Width", ""), GenICam::GenericException);
+        else
+            ask(QTest::currentDataTag(), "Width");
+        QCOMPARE(spy.count(), 0);
+        QTRY_COMPARE(spy.count(), 1);
+        QCOMPARE(spy.snapshot(), data("Width"));
+    }
+
+    void doesNotPublishUnaskedWhatIsNotImplemented()
+    {
+        const SnapshotSpy spy(parameter("Never"));
+        QVERIFY(!parameter("Never")->isImplemented());
+        QVERIFY(!data("Never")->isReadable && !data("Never")->isWritable);
+        m_collection->changeOnDevice(cameraPath("Never"), 1);
+        for (const char *action : {"invalidate", "batch", "poll"})
+            ask(action, "Never");
+        QCOMPARE(spy.count(), 0);
+        ask("refresh", "Never");
+        QCOMPARE(spy.count(), 1);
     }
 
     void tellsWhenACommandIsDone()

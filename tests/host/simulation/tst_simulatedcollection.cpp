@@ -26,6 +26,14 @@ class TestSimulatedCollection : public DeviceTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void givesOneObjectForEachName()
+    {
+        QCOMPARE(parameter("Width"), parameter("Width"));
+        QCOMPARE(parameter("Width")->fullName(), cameraPath("Width"));
+        QCOMPARE(parameter("Width")->name(), QStringLiteral("Width"));
+        QVERIFY(!parameter("Depth"));
+    }
+
     void givesKindAndTextAndTakesItBack_data()
     {
         QTest::addColumn<int>("type");
@@ -61,6 +69,18 @@ private Q_SLOTS:
         }
     }
 
+    void listsChildrenInTheirOrderWithoutCompanions()
+    {
+        const auto children = [this](const char *name) {
+            return m_collection->children(cameraPath(name), 0, true).join(QLatin1Char(' '));
+        };
+        QCOMPARE(children("AnalogControl").remove(cameraPath(QByteArray())),
+                 QStringLiteral("ExposureAuto ExposureTime GainSelector Gain Gamma"));
+        QCOMPARE(children("Width"), QString());
+        QVERIFY(m_collection->contains(cameraPath("Gain/Alias")));
+        QVERIFY(!m_collection->contains(cameraPath("Gamma/Alias")));
+    }
+
     void attachesALateTree()
     {
         const QString late = QStringLiteral("@EventGrabber");
@@ -73,6 +93,14 @@ private Q_SLOTS:
         QCOMPARE(m_collection->attachedParameterPaths().last(), late);
         QCOMPARE(m_collection->parameter(timeout)->parameterData()->valueText,
                  QStringLiteral("100"));
+    }
+
+    void describesCategoriesWithoutAskingTheDevice()
+    {
+        const QString category = cameraPath("ImageFormatControl");
+        m_collection->faults().failReads(category, FaultKind::GenericException);
+        QCOMPARE(access(*data("ImageFormatControl")), QStringLiteral("RO"));
+        QCOMPARE(m_collection->counters().total().reads, 0);
     }
 
     void givesNullObjects()
@@ -167,6 +195,15 @@ private Q_SLOTS:
         // The device keeps an entry that cannot be chosen any more.
         QCOMPARE(data("PixelFormat")->valueText, QStringLiteral("Mono12"));
         QCOMPARE(names(), QVector<QString> {QStringLiteral("Mono8")});
+    }
+
+    void showsWhatTheDeviceHoldsOutsideItsLimitsAsNotWritable()
+    {
+        SnapshotSpy spy(parameter("Width"));
+        m_collection->changeOnDevice(cameraPath("Width"), 5000);
+        QTRY_COMPARE(spy.count(), 1);
+        QCOMPARE(spy.text(), QStringLiteral("5000"));
+        QCOMPARE(access(*spy.snapshot()), QStringLiteral("RO"));
     }
 };
 

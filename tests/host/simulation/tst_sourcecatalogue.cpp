@@ -59,6 +59,17 @@ private Q_SLOTS:
         }
     }
 
+    void driftsWhileItIsPolled()
+    {
+        const auto collection = openCamera();
+        const SnapshotSpy spy(collection->parameter(cameraPath("DeviceTemperature")));
+        const auto changes = [&] {
+            collection->poll(300);
+            return spy.count();
+        };
+        QTRY_VERIFY(changes() >= 3);
+    }
+
     void movesExposureAndGainByItself_data()
     {
         QTest::addColumn<QString>("function");
@@ -81,6 +92,50 @@ private Q_SLOTS:
         QTRY_VERIFY(movedSpy.snapshot()->isWritable);
         QVERIFY(movedSpy.count() > 3 && aliasSpy.count() > 3);
         QVERIFY(collection->deviceValue(moved) != before);
+    }
+
+    void balancesAllColours()
+    {
+        const auto collection = openCamera();
+        const QString function = cameraPath("BalanceWhiteAuto");
+        collection->parameter(function)->setFromString(QStringLiteral("Once"));
+        QTRY_COMPARE(collection->deviceValue(function), QVariant(QStringLiteral("Off")));
+        const auto ratio = [&](const QString &colour) {
+            collection->parameter(cameraPath("BalanceRatioSelector"))->setFromString(colour);
+            return collection->deviceValue(cameraPath("BalanceRatio"));
+        };
+        QCOMPARE(ratio(QStringLiteral("Red")), QVariant(1.45));
+        QCOMPARE(ratio(QStringLiteral("Green")), QVariant(1.0));
+        QCOMPARE(ratio(QStringLiteral("Blue")), QVariant(1.82));
+    }
+
+    void generatesAsManyFeaturesAsAskedFor_data()
+    {
+        QTest::addColumn<int>("features");
+        QTest::addColumn<int>("perCategory");
+        QTest::addColumn<int>("categories");
+        QTest::newRow("none") << 0 << 50 << 0;
+        QTest::newRow("a full category") << 50 << 50 << 1;
+        QTest::newRow("one more") << 51 << 50 << 2;
+        QTest::newRow("one each") << 7 << 1 << 7;
+    }
+
+    void generatesAsManyFeaturesAsAskedFor()
+    {
+        QFETCH(const int, features);
+        QFETCH(const int, perCategory);
+        const auto collection = generateCollection(features, perCategory);
+        const QStringList categories = collection->children(cameraPath("Root"), 0, true);
+        QTEST(int(categories.size()), "categories");
+        QStringList names;
+        for (const QString &category : categories)
+            names += collection->children(category, 0, true);
+        QCOMPARE(names.removeDuplicates(), 0);
+        QCOMPARE(names.size(), features);
+        for (const QString &name : qAsConst(names)) {
+            const auto feature = collection->parameter(name);
+            feature->setFromString(feature->parameterData()->valueText);
+        }
     }
 
     void staysWithinItsBudget()

@@ -121,6 +121,27 @@ private Q_SLOTS:
         QCOMPARE(number->value(), value);
     }
 
+    void givesAliasesAConstantRange()
+    {
+        const auto alias = data<IntegerParameterData>("ExposureTime/Alias");
+        QCOMPARE(alias->minimum, 1);
+        QCOMPARE(alias->maximum, 1000000);
+        QCOMPARE(alias->increment, 1);
+        QCOMPARE(alias->representation, QStringLiteral("Logarithmic"));
+        // The float lies between two values of the companion.
+        QCOMPARE(alias->value, 5000);
+    }
+
+    void commandsRunByText()
+    {
+        write("Start", "1");
+        QVERIFY(!parameter("Width")->isWritable());
+        write("Stop", "0");
+        QCOMPARE(memory("TLParamsLocked"), QVariant(1LL));
+        write("Stop", "1");
+        QVERIFY(parameter("Width")->isWritable());
+    }
+
     void lockedCommandsDoNotRun()
     {
         parameter("Start")->node()->setProperty(QStringLiteral("AccessMode"), QStringLiteral("RO"));

@@ -9,9 +9,14 @@
 #include <host/simulation/parameters/faults.h>
 #include <host/viewer/visibilitylevel.h>
 
+#include <QAbstractSpinBox>
+#include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QProcess>
+#include <QScrollBar>
 #include <QSlider>
 #include <QSplitter>
 
@@ -48,6 +53,52 @@ private Q_SLOTS:
     {
         Host::setExceptionReportHook({});
         ViewerTest::cleanup();
+    }
+
+    void writesWhatIsTyped_data()
+    {
+        QTest::addColumn<QString>("category");
+        QTest::addColumn<QString>("feature");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QVariant>("expected");
+        const auto row = [](const char *tag, const char *category, const char *feature,
+                            const char *typed, const QVariant &expected) {
+            QTest::newRow(tag) << QString::fromLatin1(category) << path(feature)
+                               << QString::fromLatin1(typed) << expected;
+        };
+        row("integer", "Image Format Control", "Width", "640", 640);
+        row("integer by slider", "Image Format Control", "Width", "<", 16);
+        row("hexadecimal", "Action Control", "ActionGroupKey", "0x1F", 31);
+        row("address", "Transport Layer Control", "GevPersistentIPAddress", "10.0.0.7", 0x0A000007);
+        row("float", "Acquisition Control", "ExposureTime", "1234", 1234.0);
+        row("float by slider", "Analog Control", "BalanceRatio", "<", 0.0);
+        row("boolean", "Image Format Control", "ReverseX", "", true);
+        row("enumeration", "Acquisition Control", "TriggerMode", "On", QStringLiteral("On"));
+        row("string", "Device Control", "DeviceUserID", "Halle 7", QByteArray("Halle 7"));
+    }
+
+    void writesWhatIsTyped()
+    {
+        QFETCH(QString, category);
+        QFETCH(QString, feature);
+        QFETCH(QString, typed);
+        QFETCH(QVariant, expected);
+        click(category);
+        QTRY_VERIFY(editor(feature));
+        type(editor(feature), typed);
+        QTRY_COMPARE(source(gige)->deviceValue(feature), expected);
+    }
+
+    void executesACommand()
+    {
+        click(QStringLiteral("Acquisition Control"));
+        QTRY_VERIFY(editor(path("AcquisitionStart")));
+        type(editor(path("AcquisitionStart")), QString());
+        // A camera that runs locks its image format.
+        QTRY_COMPARE(source(gige)->deviceValue(path("TLParamsLocked")), QVariant(1));
+        click(imageFormat);
+        QTRY_VERIFY(cell(path("Width")).isValid());
+        QTRY_VERIFY(!editor(path("Width")) || !editor(path("Width"))->isEnabled());
     }
 
     void refusedValueFallsBackToTheCamerasOwn()
@@ -138,6 +189,30 @@ private Q_SLOTS:
         QTest::keyClick(search, Qt::Key_G); // events are processed while it is searched
         QVERIFY(line && !line->isVisible());
         QTRY_VERIFY(!line);
+    }
+
+    // With the wheel of the pointer itself, which first gives the focus where it may.
+    void theWheelNeedsTheFocus()
+    {
+        const auto turn = [](const QWidget *widget, const char *button) {
+            const QPoint place = widget->mapToGlobal(widget->rect().center());
+            return QProcess::execute(QStringLiteral("xdotool"),
+                                     {QStringLiteral("mousemove"), QString::number(place.x()),
+                                      QString::number(place.y()), QStringLiteral("click"),
+                                      QLatin1String(button)});
+        };
+        click(QStringLiteral("Acquisition Control"));
+        const QString feature = path("ExposureTime");
+        const QVariant before = source(gige)->deviceValue(feature);
+        table()->setFocus();
+        const int scrolled = table()->verticalScrollBar()->value();
+        QCOMPARE(turn(editor(feature)->findChild<QAbstractSpinBox *>(), "5"), 0);
+        QTRY_VERIFY(table()->verticalScrollBar()->value() != scrolled);
+        QCOMPARE(source(gige)->deviceValue(feature), before);
+        auto *box = editor(feature)->findChild<QAbstractSpinBox *>();
+        box->setFocus();
+        QCOMPARE(turn(box, "4"), 0);
+        QTRY_VERIFY(source(gige)->deviceValue(feature) != before);
     }
 
     void visibilityLevelHidesRows()

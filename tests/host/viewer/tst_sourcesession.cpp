@@ -130,6 +130,16 @@ private Q_SLOTS:
         QCOMPARE(m_session->activeIndex(), -1);
     }
 
+    void requestsAreCarriedOutFromTheEventLoop()
+    {
+        m_session->requestOpen(0);
+        QVERIFY(!m_session->isOpen(0));
+        QTRY_VERIFY(m_session->isOpen(0));
+        m_session->requestClose(0);
+        QVERIFY(m_session->isOpen(0));
+        QTRY_VERIFY(!m_session->isOpen(0));
+    }
+
     void aReopenedSourceKeepsRecordCollectionAndParameters()
     {
         m_session->open(0);

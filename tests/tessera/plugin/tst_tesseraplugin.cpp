@@ -20,6 +20,7 @@
 #include "host/framework/serviceregistry.h"
 
 #include <QAction>
+#include <QJsonObject>
 #include <QLabel>
 #include <QPluginLoader>
 #include <QPointer>
@@ -116,6 +117,14 @@ private Q_SLOTS:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         Host::deleteQuickWindows();
         m_guard.verify();
+    }
+
+    void metadataNamesThePlugin()
+    {
+        QCOMPARE(m_loader.metaData()[QLatin1String("IID")].toString(),
+                 QStringLiteral(VANTREL_PLUGIN_IID));
+        const QJsonObject data = m_loader.metaData()[QLatin1String("MetaData")].toObject();
+        QCOMPARE(data[QLatin1String("Version")].toString(), QStringLiteral(TESSERA_VERSION));
     }
 
     void typesOfSignalsAreRegistered()

@@ -97,21 +97,6 @@ private Q_SLOTS:
         QCOMPARE(moves.last(), QVariantList({0, 3}));
     }
 
-    void deletesOnlyItemsThatStandInNoTree()
-    {
-        const QList<FeatureTreeItem *> features = items("  A Integer 1");
-        const QPointer<FeatureTreeItem> ofTree(features.first());
-        const auto parameter = m_collection->parameter(pathOf("A"));
-        const QPointer<FeatureTreeItem> fresh(new FeatureTreeINodeItem(
-            m_collection, parameter, m_table, pathOf("A"), nullptr, true, 0));
-        m_table->setItems({ofTree, fresh}, true);
-        QCOMPARE(m_table->index(1, 1).data().toString(), QStringLiteral("1"));
-        m_table->setItems({ofTree}, true);
-        QVERIFY(!fresh);
-        m_table->clear();
-        QVERIFY(ofTree);
-    }
-
     void writesOnlyWhatDiffers()
     {
         m_table->setItems(items("  A Integer 5"), true);

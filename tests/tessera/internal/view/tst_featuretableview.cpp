@@ -130,21 +130,6 @@ private Q_SLOTS:
         QCOMPARE(node(name).writes, QStringList());
     }
 
-    void aKeyOnTheCellClicksAButton()
-    {
-        show(QStringLiteral("Switch Boolean 1\nRun Command\nLocked Boolean 1 ro"));
-        for (const char *name : {"Switch", "Run", "Locked"}) {
-            m_table->setCurrentIndex(value(name).siblingAtColumn(0));
-            QTest::keyClick(m_table, Qt::Key_Space);
-            m_table->setCurrentIndex(value(name));
-            QTest::keyClick(m_table, Qt::Key_Space);
-            QVERIFY(m_table->hasFocus());
-        }
-        QCOMPARE(node("Switch").writes, QStringList(QStringLiteral("0")));
-        QCOMPARE(node("Run").executions, 1);
-        QCOMPARE(node("Locked").writes, QStringList());
-    }
-
     void takesTheFocusFromAnEditorThatGoes_data()
     {
         using Event = std::function<void()>;

@@ -84,6 +84,25 @@ private Q_SLOTS:
         QCOMPARE(m_slider->value(), 40);
     }
 
+    void oneAnswerPassesAfterWhatTheUserSet()
+    {
+        update(floatSnapshot(3.5, 0, 100, 1));
+        m_box->setFocus();
+        const auto locked = floatSnapshot(4.5, 0, 50, 1);
+        locked->isWritable = false;
+        update(locked);
+        QCOMPARE(m_box->text(), QStringLiteral("3.5"));
+        QTest::keyClick(m_box, Qt::Key_Return);
+        update(floatSnapshot(5.5, 0, 100, 1));
+        QCOMPARE(m_box->text(), QStringLiteral("5.5"));
+        update(floatSnapshot(6.5, 0, 100, 1));
+        QCOMPARE(m_box->text(), QStringLiteral("5.5"));
+        m_other->setFocus();
+        update(locked);
+        QCOMPARE(m_box->text(), QStringLiteral("4.5"));
+        QVERIFY(!m_editor->isEnabled());
+    }
+
     void stepsFromTheDevicesValue_data()
     {
         QTest::addColumn<Qt::Key>("key");

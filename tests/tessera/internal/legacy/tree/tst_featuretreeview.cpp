@@ -84,6 +84,20 @@ private Q_SLOTS:
         QVERIFY(node("Mode").writes.isEmpty());
     }
 
+    void opensEditorsOfRowsThatComeBack()
+    {
+        showFeatures("Mode Enum A entries=A,B");
+        receive("Mode");
+        m_view->closePersistentEditor(value("Mode"));
+        Q_EMIT m_features->layoutChanged();
+        QVERIFY(editor("Mode"));
+        m_view->closePersistentEditor(value("Mode"));
+        auto *top = qobject_cast<FeatureTreeINodeItem *>(
+            m_features->itemFromIndex(m_features->index(0, 0)));
+        m_features->loadChildren(top, top->parameter());
+        QVERIFY(editor("Mode"));
+    }
+
     void saysWhenThereIsNothingToShow()
     {
         const auto picture = [this] { return m_view->viewport()->grab().toImage(); };
