@@ -6,7 +6,6 @@
 #include <QDrag>
 #include <QLabel>
 #include <QMimeData>
-#include <QProcess>
 #include <QPushButton>
 
 /// A window of somebody else's, out of which the path of a feature can be dragged as a text.
@@ -139,49 +138,6 @@ private:
     static void clickInWindow(const char *name)
     {
         move({moveTo(middleOf(name)), pointer("click")});
-    }
-
-    /// A drag with some way in between, as a hand makes it.
-    static void drag(QPoint from, QPoint to)
-    {
-        constexpr int steps = 8;
-        QVector<QStringList> way;
-        way.reserve(steps + 7);
-        way += {moveTo(from), pointer("mousedown")};
-        for (int step = 1; step <= steps; ++step) {
-            way.append(moveTo(from + (to - from) * step / steps));
-        }
-        way += QVector<QStringList>(4, moveTo(to + QPoint(1, 1)));
-        way.append(pointer("mouseup"));
-        move(way);
-    }
-
-    static QStringList moveTo(QPoint place)
-    {
-        return {QStringLiteral("mousemove"), QString::number(place.x()),
-                QString::number(place.y())};
-    }
-
-    static QStringList pointer(const char *act)
-    {
-        return {QLatin1String(act), QStringLiteral("1")};
-    }
-
-    /// A drag has an event loop of its own, in which the pointer must go on moving; and it moves
-    /// no faster than the viewer can follow.
-    static void move(const QVector<QStringList> &way)
-    {
-        QTimer hand;
-        int step = 0;
-        connect(&hand, &QTimer::timeout, &hand, [&] {
-            if (step == way.size()) {
-                hand.stop();
-            } else {
-                QCOMPARE(QProcess::execute(QStringLiteral("xdotool"), way.at(step++)), 0);
-            }
-        });
-        hand.start(40);
-        QTRY_VERIFY_WITH_TIMEOUT(!hand.isActive(), 30000);
     }
 };
 

@@ -32,14 +32,6 @@ const QString usb = QStringLiteral("simulated:usb");
 const QString workbench = QStringLiteral("simulated:workbench");
 const QString imageFormat = QStringLiteral("Image Format Control");
 
-void drag(QWidget *widget, QPoint from, QPoint by)
-{
-    QTest::mousePress(widget, Qt::LeftButton, Qt::NoModifier, from);
-    QTest::mouseMove(widget, from + by / 2);
-    QTest::mouseMove(widget, from + by);
-    QTest::mouseRelease(widget, Qt::LeftButton, Qt::NoModifier, from + by);
-}
-
 } // namespace
 
 /// The built module in the viewer's own window, over the simulated cameras: from keys and mouse on
@@ -229,28 +221,27 @@ private Q_SLOTS:
 
     void findsWidthsAndListsAgain()
     {
-        const auto widths = [this] {
-            return QVector<int> {tree()->width(), table()->columnWidth(0),
-                                 table("Basic")->columnWidth(0)};
-        };
+        window()->move(0, 0);
         click(imageFormat);
         auto *splitter = widget<QSplitter>("splitter");
-        QWidget *handle = splitter->handle(1);
-        drag(handle, handle->rect().center(), {40, 0});
-        QHeaderView *header = table()->horizontalHeader();
-        drag(header->viewport(), {header->sectionSize(0) - 1, header->height() / 2}, {-35, 0});
-
+        const QWidget *handle = splitter->handle(1);
+        const QPoint grip = handle->mapToGlobal(handle->rect().center());
+        const QVector<int> original = widths();
+        drag(grip, grip + QPoint(40, 0));
+        dragColumn("All", -35);
         dock("Basic")->raise();
-        header = table("Basic")->horizontalHeader();
-        QTRY_VERIFY(header->isVisible());
-        drag(header->viewport(), {header->sectionSize(0) - 1, header->height() / 2}, {30, 0});
+        QTRY_VERIFY(table("Basic")->isVisible());
+        dragColumn("Basic", 30);
         const QModelIndex second = table("Basic")->model()->index(1, 0);
         QTest::mouseClick(table("Basic")->viewport(), Qt::LeftButton, Qt::NoModifier,
                           table("Basic")->visualRect(second).center());
         QTest::keyClick(table("Basic"), Qt::Key_Up, Qt::ControlModifier);
         const QString names = namesShown("Basic");
         QVERIFY2(names.startsWith(QLatin1String("Height Width ")), qPrintable(names));
-        const QVector<int> before = widths();
+        const QVector<int> dragged = widths();
+        for (int i = 0; i < dragged.size(); ++i) {
+            QVERIFY(dragged.at(i) != original.at(i));
+        }
 
         m_viewer->session()->closeAll();
         window()->close();
@@ -258,10 +249,23 @@ private Q_SLOTS:
         start();
         QCOMPARE(namesShown("Basic"), names);
         dock("All")->raise();
-        QTRY_COMPARE(widths(), before);
+        QTRY_COMPARE(widths(), dragged);
     }
 
 private:
+    QVector<int> widths() const
+    {
+        return {tree()->width(), table()->columnWidth(0), table("Basic")->columnWidth(0)};
+    }
+
+    void dragColumn(const char *pane, int by) const
+    {
+        const QHeaderView *header = table(pane)->horizontalHeader();
+        const QPoint edge =
+            header->viewport()->mapToGlobal({header->sectionSize(0) - 1, header->height() / 2});
+        drag(edge, edge + QPoint(by, 0));
+    }
+
     QString rootShown() const
     {
         return tree() ? tree()->model()->index(0, 0).data().toString() : QString();

@@ -189,6 +189,7 @@ private Q_SLOTS:
         makePane(id.toLatin1(), false);
         QTEST(m_windows->calls.join(QLatin1Char('|')), "calls");
         addCamera(QStringLiteral("Cam"));
+        settings.remove(QString());
         m_pane.reset();
         const QStringList expected = written.split(QStringLiteral("; "));
         for (const QString &entry : expected) {

@@ -167,6 +167,9 @@ private Q_SLOTS:
         QCOMPARE(m_box->text(), QStringLiteral("5.0"));
         QCOMPARE(m_slider->value(), 40);
         QCOMPARE(editor->toolTip(), QStringLiteral("Range: 0.0..100.0 (Increment: 0.5)"));
+        showGain(floatSnapshot(5, 2, 50, 0.5));
+        QCOMPARE(editor->toolTip(), QStringLiteral("Range: 2.0..50.0 (Increment: 0.5)"));
+        QCOMPARE(m_box->maximum(), 50.0);
         node("Gain").maximum = 3.0;
         QCOMPARE(editor->editorValue(), QVariant(3.0));
 
