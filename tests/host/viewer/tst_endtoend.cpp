@@ -3,15 +3,14 @@
 
 #include "viewertest.h"
 
+#include "plugin/contract/core/logging.h"
 #include "support/treetext.h"
 
 #include <host/framework/exceptionreport.h>
 #include <host/simulation/parameters/faults.h>
+#include <host/viewer/logview.h>
 #include <host/viewer/visibilitylevel.h>
 
-#include <QAbstractSpinBox>
-#include <QCheckBox>
-#include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -19,6 +18,7 @@
 #include <QScrollBar>
 #include <QSlider>
 #include <QSplitter>
+#include <QTextBrowser>
 
 #include <algorithm>
 
@@ -169,6 +169,22 @@ private Q_SLOTS:
         m_viewer->session()->requestClose(m_viewer->session()->activeIndex());
         QTRY_COMPARE(m_viewer->session()->activeIndex(), -1);
         QTRY_VERIFY(!opened);
+    }
+
+    void docksTellOfTheCurrentFeatureAndOfTheLog()
+    {
+        const auto *documentation = window()->findChild<QTextBrowser *>();
+        pane().select(path("OffsetX"));
+        QTRY_VERIFY(documentation->toPlainText().contains(path("OffsetX")));
+        source(gige)->changeOnDevice(path("Width"), 640); // which moves the limits
+        QTRY_VERIFY(documentation->toPlainText().contains(QLatin1String("1808")));
+
+        const QAbstractItemModel *log = window()->findChild<Viewer::LogView *>()->model();
+        const int entries = log->rowCount();
+        Core::Logging::createLogEntry(Core::Logging::ELogLevel::Information,
+                                      Core::Logging::getCatId("test"), QStringLiteral("heard"));
+        QTRY_COMPARE(log->rowCount(), entries + 1);
+        QCOMPARE(log->index(entries, 3).data().toString(), QStringLiteral("heard"));
     }
 
     void unpluggingDuringASearchIsSurvived()
